@@ -1,0 +1,93 @@
+// The window's controls as data: the four selectors, the labels, the menu items' enabled
+// and checked states, the visibility of panels, the rubber-band line, the scroll bar and
+// the canvas tool tip. The logic reads and writes them; the window reflects them.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tri {
+
+// A drop-down list. Setting the list index runs its click procedure, as a click would.
+class Combo {
+ public:
+  explicit Combo(std::string name) : name_(std::move(name)) {}
+
+  const std::string& name() const { return name_; }
+  void clear();
+  void addItem(const std::string& text);
+  int listCount() const { return static_cast<int>(items_.size()); }
+  int listIndex() const { return listIndex_; }
+  // An index outside -1 .. listCount() - 1 is an "Invalid property value" Fault.
+  void setListIndex(int index);
+  // The text of the selected entry; empty when none is selected.
+  std::string text() const;
+  const std::string& item(int index) const;
+  const std::vector<std::string>& items() const { return items_; }
+
+  std::function<void()> onClick;
+
+ private:
+  std::string name_;
+  std::vector<std::string> items_;
+  int listIndex_ = -1;
+};
+
+struct MenuState {
+  bool enabled = true;
+  bool checked = false;
+};
+
+struct LineControl {
+  bool visible = false;
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+  int color = 0;
+  int width = 1;
+};
+
+class Controls {
+ public:
+  Controls();
+
+  Combo combo1{"Combo1"};  // limit tenor
+  Combo combo2{"Combo2"};  // drawing
+  Combo combo4{"Combo4"};  // lithology
+  Combo combo5{"Combo5"};  // project
+
+  // Label1 .. Label13. Setting Label1 tells the window to show progress.
+  const std::string& label(int number) const;
+  void setLabel(int number, const std::string& text);
+
+  // Menu items by their names (Mnkaydir, MNolcek, ...); unknown names start enabled and
+  // unchecked.
+  MenuState& menu(const std::string& name) { return menu_[name]; }
+  bool enabled(const std::string& name) const;
+  bool checked(const std::string& name) const;
+  void enable(const std::string& name, bool on = true) { menu_[name].enabled = on; }
+  void check(const std::string& name, bool on = true) { menu_[name].checked = on; }
+
+  // Visibility of panels and controls: Picture1, Picture2, HScroll1, Combo3, Command1,
+  // Command2, Frame1, Frame2.
+  bool visible(const std::string& name) const;
+  void show(const std::string& name, bool on = true) { visible_[name] = on; }
+  void hide(const std::string& name) { visible_[name] = false; }
+
+  LineControl line1;
+  int hscroll1Value = 0;
+  std::string picture1ToolTip;
+
+  // Called when a long command has written Label1, so that the window can show it.
+  std::function<void()> onProgress;
+  // Called when the logic lays out the window after a project is loaded.
+  std::function<void()> onLayout;
+
+ private:
+  std::array<std::string, 14> labels_;
+  std::map<std::string, MenuState> menu_;
+  std::map<std::string, bool> visible_;
+};
+
+}  // namespace tri

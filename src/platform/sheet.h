@@ -1,0 +1,51 @@
+// Workbooks of drill-hole and point-set data: the cells of the active (first) sheet of an
+// .xls file, by row and column counted from 1.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tri {
+
+struct Cell {
+  enum class Kind { Empty, Number, Text };
+  Kind kind = Kind::Empty;
+  double number = 0;
+  std::string text;
+
+  // The cell's value as text: the general number text of a number, the text of a text,
+  // nothing for an empty cell.
+  std::string valueText() const;
+  // A cell counts as empty when its value text has length 0.
+  bool isEmpty() const { return valueText().empty(); }
+};
+
+class Sheet {
+ public:
+  virtual ~Sheet() = default;
+  // Rows and columns from 1. A cell beyond the sheet's data is empty.
+  virtual Cell cell(int row, int column) const = 0;
+};
+
+// An .xls workbook read with FreeXL. A file that is missing or is not a readable workbook
+// is a "Workbook error" Fault naming the file and the reason.
+std::unique_ptr<Sheet> openXlsSheet(const std::string& path);
+
+// A sheet held in memory, for tests and benchmarks.
+class GridSheet : public Sheet {
+ public:
+  void setNumber(int row, int column, double value);
+  void setText(int row, int column, const std::string& text);
+  Cell cell(int row, int column) const override;
+
+ private:
+  Cell& slot(int row, int column);
+  std::vector<std::vector<Cell>> columns_;
+};
+
+// How a command opens a workbook by path; the default reads .xls files.
+using SheetOpener = std::function<std::unique_ptr<Sheet>(const std::string& path)>;
+
+}  // namespace tri

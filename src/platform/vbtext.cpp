@@ -1,0 +1,132 @@
+#include "platform/vbtext.h"
+
+#include <cerrno>
+#include <cfenv>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+
+#include "platform/fault.h"
+
+namespace tri {
+
+std::string numberText(double x) {
+  if (x == 0) return "0";
+  if (std::isnan(x)) return "NaN";
+  if (std::isinf(x)) return x > 0 ? "Inf" : "-Inf";
+  // %G at 15 digits is the runtime's rule: exponent form below 1E-4 and from 1E+15,
+  // trailing zeros dropped, at least two exponent digits.
+  char buffer[40];
+  std::snprintf(buffer, sizeof buffer, "%.15G", x);
+  return buffer;
+}
+
+namespace {
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Returns the trimmed number text, or an empty view when `text` is not a number.
+std::string_view numberSyntax(std::string_view text) {
+  size_t begin = text.find_first_not_of(' ');
+  if (begin == std::string_view::npos) return {};
+  size_t end = text.find_last_not_of(' ') + 1;
+  std::string_view body = text.substr(begin, end - begin);
+
+  size_t i = 0;
+  if (i < body.size() && (body[i] == '+' || body[i] == '-')) ++i;
+  size_t digits = 0;
+  while (i < body.size() && isDigit(body[i])) ++i, ++digits;
+  if (i < body.size() && body[i] == '.') {
+    ++i;
+    while (i < body.size() && isDigit(body[i])) ++i, ++digits;
+  }
+  if (digits == 0) return {};
+  if (i < body.size() && (body[i] == 'e' || body[i] == 'E')) {
+    ++i;
+    if (i < body.size() && (body[i] == '+' || body[i] == '-')) ++i;
+    size_t exponentDigits = 0;
+    while (i < body.size() && isDigit(body[i])) ++i, ++exponentDigits;
+    if (exponentDigits == 0) return {};
+  }
+  return i == body.size() ? body : std::string_view{};
+}
+
+}  // namespace
+
+bool isNumberText(std::string_view text) { return !numberSyntax(text).empty(); }
+
+double toNumber(std::string_view text) {
+  std::string_view body = numberSyntax(text);
+  if (body.empty()) {
+    throw Fault(FaultKind::TypeMismatch, "\"" + std::string(text) + "\" is not a number");
+  }
+  std::string owned(body);
+  errno = 0;
+  double value = std::strtod(owned.c_str(), nullptr);
+  if (std::isinf(value)) {
+    throw Fault(FaultKind::Overflow, "\"" + owned + "\" is too large for a number");
+  }
+  return value;
+}
+
+double roundHalfEven(double x, int decimals) {
+  if (!std::isfinite(x)) return x;
+  double scale = std::pow(10.0, decimals);
+  double scaled = x * scale;
+  if (!std::isfinite(scaled)) return x;
+  int previous = std::fegetround();
+  std::fesetround(FE_TONEAREST);
+  double rounded = std::nearbyint(scaled);
+  std::fesetround(previous);
+  return rounded / scale;
+}
+
+long wholeIndex(double x) {
+  int previous = std::fegetround();
+  std::fesetround(FE_TONEAREST);
+  double rounded = std::nearbyint(x);
+  std::fesetround(previous);
+  if (!(rounded >= std::numeric_limits<int>::min() && rounded <= std::numeric_limits<int>::max())) {
+    throw Fault(FaultKind::Overflow, numberText(x) + " does not fit a whole number");
+  }
+  return static_cast<long>(rounded);
+}
+
+double divide(double a, double b, const char* what) {
+  if (b == 0) {
+    throw Fault(FaultKind::DivisionByZero,
+                std::string(what) + ": " + numberText(a) + " divided by 0");
+  }
+  return a / b;
+}
+
+namespace {
+bool isContinuationByte(unsigned char c) { return (c & 0xC0) == 0x80; }
+}  // namespace
+
+long charCount(std::string_view text) {
+  long count = 0;
+  for (unsigned char c : text) count += isContinuationByte(c) ? 0 : 1;
+  return count;
+}
+
+std::string leftChars(std::string_view text, long count) {
+  if (count < 0) {
+    throw Fault(FaultKind::InvalidProcedureCall,
+                "cannot take " + std::to_string(count) + " characters of \"" +
+                    std::string(text) + "\"");
+  }
+  size_t i = 0;
+  long taken = 0;
+  while (i < text.size()) {
+    if (!isContinuationByte(static_cast<unsigned char>(text[i]))) {
+      if (taken == count) break;
+      ++taken;
+    }
+    ++i;
+  }
+  return std::string(text.substr(0, i));
+}
+
+}  // namespace tri
