@@ -3,6 +3,7 @@
 // Storage is taken on demand, so a bound of 999 by 999 costs only what is used.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <string>
@@ -101,6 +102,14 @@ class Sparse {
     return it == items_.end() ? empty_ : it->second;
   }
   void clear() { items_.clear(); }
+  // Removes every entry whose indices begin with `prefix`.
+  template <class... I>
+  void erasePrefix(I... prefix) {
+    const std::array<long, sizeof...(I)> head{static_cast<long>(prefix)...};
+    std::erase_if(items_, [&](const auto& item) {
+      return std::equal(head.begin(), head.end(), item.first.begin());
+    });
+  }
 
  private:
   void check(const Key& key) const {

@@ -79,6 +79,9 @@ class Controls {
   int hscroll1Value = 0;
   std::string picture1ToolTip;
 
+  // Set when the program is asked to end.
+  bool closeRequested = false;
+
   // Called when a long command has written Label1, so that the window can show it.
   std::function<void()> onProgress;
   // Called when the logic lays out the window after a project is loaded.

@@ -84,6 +84,7 @@ class Recordset {
   void addNew();
   void edit();
   void set(const std::string& field, double number);
+  void set(const std::string& field, int number) { set(field, static_cast<double>(number)); }
   void set(const std::string& field, const std::string& text);
   void set(const std::string& field, const char* text) { set(field, std::string(text)); }
   void setNull(const std::string& field);

@@ -32,31 +32,31 @@ UnansweredDialog::UnansweredDialog(DialogKind kindOf, const std::string& promptO
       kind(kindOf),
       prompt(promptOf) {}
 
-ScriptedDialogs& ScriptedDialogs::input(const std::string& answer,
+ScriptedDialogs& ScriptedDialogs::answerInput(const std::string& answer,
                                         std::optional<std::string> prompt) {
   queue_.push_back(Queued{DialogKind::Input, std::move(prompt), answer, Answer::OK, {}});
   return *this;
 }
 
-ScriptedDialogs& ScriptedDialogs::button(Answer answer, std::optional<std::string> text) {
+ScriptedDialogs& ScriptedDialogs::answerButton(Answer answer, std::optional<std::string> text) {
   Queued q{DialogKind::Message, std::move(text), answerName(answer), answer, {}};
   queue_.push_back(std::move(q));
   return *this;
 }
 
-ScriptedDialogs& ScriptedDialogs::openFile(const std::string& path,
+ScriptedDialogs& ScriptedDialogs::answerOpen(const std::string& path,
                                            std::optional<std::string> title) {
   queue_.push_back(Queued{DialogKind::OpenFile, std::move(title), path, Answer::OK, {}});
   return *this;
 }
 
-ScriptedDialogs& ScriptedDialogs::saveFile(const std::string& path,
+ScriptedDialogs& ScriptedDialogs::answerSave(const std::string& path,
                                            std::optional<std::string> title) {
   queue_.push_back(Queued{DialogKind::SaveFile, std::move(title), path, Answer::OK, {}});
   return *this;
 }
 
-ScriptedDialogs& ScriptedDialogs::color(Color value, std::optional<std::string> title) {
+ScriptedDialogs& ScriptedDialogs::answerColor(Color value, std::optional<std::string> title) {
   Queued q{DialogKind::Color, std::move(title), std::to_string(value), Answer::OK, value};
   queue_.push_back(std::move(q));
   return *this;

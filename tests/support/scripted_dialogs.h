@@ -27,11 +27,11 @@ class ScriptedDialogs : public Dialogs {
  public:
   // Queue the answer of the next dialog of a kind; an expected prompt, when given, must
   // match the dialog's prompt (or, for file dialogs, its title) exactly.
-  ScriptedDialogs& input(const std::string& answer, std::optional<std::string> prompt = {});
-  ScriptedDialogs& button(Answer answer, std::optional<std::string> text = {});
-  ScriptedDialogs& openFile(const std::string& path, std::optional<std::string> title = {});
-  ScriptedDialogs& saveFile(const std::string& path, std::optional<std::string> title = {});
-  ScriptedDialogs& color(Color color, std::optional<std::string> title = {});
+  ScriptedDialogs& answerInput(const std::string& answer, std::optional<std::string> prompt = {});
+  ScriptedDialogs& answerButton(Answer answer, std::optional<std::string> text = {});
+  ScriptedDialogs& answerOpen(const std::string& path, std::optional<std::string> title = {});
+  ScriptedDialogs& answerSave(const std::string& path, std::optional<std::string> title = {});
+  ScriptedDialogs& answerColor(Color color, std::optional<std::string> title = {});
   // Cancel the next colour dialog.
   ScriptedDialogs& cancelColor();
 

@@ -1,0 +1,29 @@
+# Shared steps of scripts/run and scripts/test: install what is missing, configure, build.
+
+PACKAGES=(cmake g++ make pkg-config libsqlite3-dev libfreexl-dev qt6-base-dev libgl-dev
+          libgtest-dev libbenchmark-dev xvfb xauth fonts-dejavu-core)
+
+root_dir="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+
+install_missing_packages() {
+  local missing=()
+  for package in "${PACKAGES[@]}"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" ||
+      missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  echo "Installing: ${missing[*]}"
+  local sudo=""
+  [ "$(id -u)" -ne 0 ] && sudo="sudo"
+  export DEBIAN_FRONTEND=noninteractive
+  $sudo apt-get install -y --no-install-recommends "${missing[@]}" ||
+    { $sudo apt-get update && $sudo apt-get install -y --no-install-recommends "${missing[@]}"; }
+}
+
+# configure_and_build BUILD_DIR [TARGET] [CMAKE OPTIONS...]
+configure_and_build() {
+  local dir="$root_dir/$1" target="$2"
+  shift 2
+  cmake -S "$root_dir" -B "$dir" -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@" >/dev/null
+  cmake --build "$dir" --parallel "$(nproc)" ${target:+--target "$target"}
+}

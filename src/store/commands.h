@@ -1,0 +1,23 @@
+// The commands and events of the project store: the window's start, resize and exit, and
+// opening and creating projects.
+#pragma once
+
+#include "store/state.h"
+
+namespace tri {
+
+// The window
+void Form_Load(State& s);
+// The canvas has been given a new size in pixels.
+void Form_Resize(State& s, int canvasWidth, int canvasHeight);
+void Mncikis_Click(State& s);
+
+// File, Open, Project (Ctrl+O)
+void Mnprojeac_Click(State& s);
+// File, Create, Project (Ctrl+F)
+void Mnprolus_Click(State& s);
+
+// Lays out the window after a project is loaded (the window's own business).
+void layoutAfterLoad(State& s);
+
+}  // namespace tri

@@ -1,0 +1,313 @@
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "canvas/frame.h"
+#include "canvas/replay.h"
+#include "platform/store.h"
+#include "platform/vbtext.h"
+#include "store/commands.h"
+#include "store/ondayaz.h"
+#include "store/project_commands.h"
+#include "store/project_format.h"
+
+namespace tri {
+
+namespace {
+
+const char* const kWorkbookFilter = "Excel File (*.xls)|*.xls";
+const char* const kProjectFilter = "Access 2003-2005 Database File (*.mdb)|*.mdb";
+// Rows and columns are scanned this far for the end of the data.
+constexpr int kScanLimit = 999;
+
+std::optional<FileChoice> askWorkbook(State& s) {
+  while (true) {
+    FileChoice file = s.dialogs.openFile("Select File with Drilling Data", kWorkbookFilter);
+    if (!file.empty()) return file;
+    Answer again =
+        s.dialogs.messageBox("You did not enter a name", Buttons::OKCancel, Icon::None, "");
+    if (again == Answer::Cancel) return std::nullopt;
+  }
+}
+
+// The drill holes of a workbook: one hole per column, its rows as described in the
+// project format.
+class HoleWorkbook {
+ public:
+  HoleWorkbook(std::unique_ptr<Sheet> sheet, std::string path)
+      : sheet_(std::move(sheet)), path_(std::move(path)) {}
+
+  // Holes end at the first empty cell of row 1.
+  int countHoles() const {
+    return firstEmpty([&](int column) { return sheet_->cell(1, column); }, "row 1", "holes") - 1;
+  }
+
+  // A column ends at its first empty cell.
+  int countRows(int column) const {
+    return firstEmpty([&](int row) { return sheet_->cell(row, column); },
+                      "column " + std::to_string(column), "rows") -
+           1;
+  }
+
+  // A number cell; an empty cell reads 0, a text that is not a number is a Fault naming
+  // the cell. A fractional row is rounded to a whole row first.
+  double number(double row, int column) const {
+    const int r = wholeIndex(row);
+    const Cell cell = sheet_->cell(r, column);
+    if (cell.kind == Cell::Kind::Number) return cell.number;
+    if (cell.isEmpty()) return 0;
+    if (isNumberText(cell.text)) return toNumber(cell.text);
+    throw Fault(FaultKind::TypeMismatch, "column " + std::to_string(column) + ", row " +
+                                             std::to_string(r) + " of " + path_ +
+                                             " holds the text \"" + cell.text +
+                                             "\" where a number is needed");
+  }
+
+  std::string text(double row, int column) const {
+    return sheet_->cell(wholeIndex(row), column).valueText();
+  }
+
+ private:
+  template <class CellAt>
+  int firstEmpty(CellAt cellAt, const std::string& where, const char* what) const {
+    for (int i = 1; i <= kScanLimit + 1; ++i) {
+      if (cellAt(i).isEmpty()) return i;
+    }
+    throw Fault(FaultKind::Workbook, where + " of " + path_ + " has more than " +
+                                         std::to_string(kScanLimit) + " " + what +
+                                         ": that is more than a project holds");
+  }
+
+  std::unique_ptr<Sheet> sheet_;
+  std::string path_;
+};
+
+// What the workbook gives beyond the hole arrays: the layer count of every hole.
+struct ReadHoles {
+  std::vector<int> layers;  // by hole, from 1
+};
+
+// The lithology list: the distinct names of the first hole in their order of first
+// appearance. Each repeat of a name is overwritten by "ayni" first, so a layer really
+// named "ayni" is dropped as well.
+void makeLithologyList(State& s, int p, Bounded<std::string>& names, int count) {
+  for (int at = 1; at <= count; ++at) {
+    int matches = 0;
+    for (int q = 1; q <= count; ++q) {
+      if (names[q] == names[at] && ++matches > 1) names[q] = "ayni";
+    }
+  }
+  for (int at = 1; at <= count; ++at) {
+    if (names[at] == "ayni") continue;
+    s.projects.litsay[p] += 1;
+    s.projects.litad(p, s.projects.litsay[p]) = names[at];
+  }
+}
+
+// Reads every hole of the workbook into the hole arrays, with the values as they stand in
+// the workbook, and makes the lithology list from the first hole.
+ReadHoles readHoles(State& s, const HoleWorkbook& book, int p) {
+  Holes& h = s.holes;
+  ReadHoles read;
+  read.layers.assign(h.sondsay + 1, 0);
+  Bounded<std::string> names{"lithology names of the first hole", 1000};
+  for (int i = 1; i <= h.sondsay; ++i) {
+    h.eks[i] = book.number(1, i);
+    h.eye[i] = book.number(2, i);
+    h.isim[i] = book.text(3, i);
+    h.songir[i] = book.number(4, i);
+    h.cevgir[i] = book.number(5, i);
+    h.cevcik[i] = book.number(6, i);
+    h.soncik[i] = book.number(7, i);
+    const double n = (h.satirsay[i] - 7) / 5.0;
+    int c = 0;
+    for (int k = 1; k <= n; ++k) {
+      ++c;
+      h.lit(i, k) = book.text(7 + k, i);
+      names[c] = h.lit(i, k);
+      h.ten(i, k) = book.number(7 + n + k, i);
+      h.yog(i, k) = book.number(7 + 2 * n + k, i);
+      h.uz(i, k) = book.number(7 + 3 * n + k, i);
+      h.dya(i, k) = book.number(7 + 4 * n + k, i);
+    }
+    read.layers[i] = c;
+    if (i == 1) makeLithologyList(s, p, names, c);
+  }
+  return read;
+}
+
+// Field names of the layer slots, made once.
+struct LayerFields {
+  explicit LayerFields(int slots) {
+    for (int n = 0; n <= slots; ++n) {
+      lit.push_back(numbered("lit", n));
+      ten.push_back(numbered("ten", n));
+      yog.push_back(numbered("yog", n));
+      uz.push_back(numbered("uz", n));
+      dya.push_back(numbered("dya", n));
+    }
+  }
+  std::vector<std::string> lit, ten, yog, uz, dya;
+};
+
+// Appends one hole as a row of kor or log: its values through ondayaz, its layers, and the
+// end of its log in the slot after the last layer.
+void appendHoleRow(Recordset& rs, const Holes& h, int i, int layers, const LayerFields& f) {
+  rs.addNew();
+  rs.set("eks", ondayaz(h.eks[i]));
+  rs.set("eye", ondayaz(h.eye[i]));
+  rs.set("songir", ondayaz(h.songir[i]));
+  rs.set("cevgir", ondayaz(h.cevgir[i]));
+  rs.set("cevcik", ondayaz(h.cevcik[i]));
+  rs.set("soncik", ondayaz(h.soncik[i]));
+  rs.set("isim", h.isim[i]);
+  for (int k = 1; k <= layers; ++k) {
+    rs.set(f.lit[k], h.lit(i, k));
+    rs.set(f.ten[k], ondayaz(h.ten(i, k)));
+    rs.set(f.yog[k], ondayaz(h.yog(i, k)));
+    rs.set(f.uz[k], ondayaz(h.uz(i, k)));
+    rs.set(f.dya[k], ondayaz(h.dya(i, k)));
+  }
+}
+
+void endHoleRow(Recordset& rs, int layers, const LayerFields& f) {
+  rs.set(f.lit[layers + 1], " ");
+  rs.set(f.ten[layers + 1], 0);
+  rs.update();
+}
+
+void appendEndMark(Recordset& rs) {
+  rs.addNew();
+  rs.set("eks", 0);
+  rs.update();
+}
+
+void writeKor(Database& db, const Holes& h, const ReadHoles& read, const LayerFields& f) {
+  Recordset kor = db.openTable(kHoleTable);
+  for (int i = 1; i <= h.sondsay; ++i) {
+    appendHoleRow(kor, h, i, read.layers[i], f);
+    endHoleRow(kor, read.layers[i], f);
+  }
+  appendEndMark(kor);
+}
+
+void writeLog(Database& db, const Holes& h, const ReadHoles& read, const LayerFields& f,
+              int lithologies) {
+  Recordset log = db.openTable(kLogTable);
+  std::vector<std::string> marks;
+  for (int k = 1; k <= lithologies; ++k) marks.push_back(numbered("deg", k));
+  for (int i = 1; i <= h.sondsay; ++i) {
+    appendHoleRow(log, h, i, read.layers[i], f);
+    for (const std::string& mark : marks) log.set(mark, kMarkedNo);
+    endHoleRow(log, read.layers[i], f);
+  }
+  appendEndMark(log);
+}
+
+void writeLithologies(Database& db, const State& s, int p) {
+  const int count = s.projects.litsay[p];
+  for (int l = 1; l <= count; ++l) db.createTable(s.projects.litad.get(p, l), lithologyFields());
+  db.createTable(kLithologyListTable, lithologyListFields());
+  {
+    Recordset list = db.openTable(kLithologyListTable);
+    for (int l = 1; l <= count; ++l) {
+      list.addNew();
+      list.set("isim", s.projects.litad.get(p, l));
+      list.set("litno", l);
+      list.update();
+    }
+  }
+  for (int l = 1; l <= count; ++l) {
+    Recordset table = db.openTable(s.projects.litad.get(p, l));
+    table.addNew();
+    table.set("tsay", 0);
+    table.update();
+  }
+}
+
+void writePolHeader(Database& db) {
+  Recordset pol = db.openTable(kPolTable);
+  pol.addNew();
+  pol.set("polsay", 0);
+  pol.set("polsil", 0);
+  pol.update();
+}
+
+void say(State& s, const std::string& text, const std::string& title) {
+  s.ui.setLabel(1, text);
+  s.dialogs.messageBox(text, Buttons::OK, Icon::Information, title);
+}
+
+// A new project's own form of the area limit: the user decides whether to shrink.
+void checkNewProjectArea(State& s) {
+  if (frameAreaKm2(s.frame) < kAreaLimitKm2) return;
+  say(s, "You have passed the Plane Counted Area Value (50 Square Kilometers) ! Projection "
+         "required.",
+      "Attention !");
+  const Answer fix = s.dialogs.messageBox(
+      "If the Relevant Area is Reduced, You Cannot Work with Drills Outside the Area Value. "
+      "Make a Correction?",
+      Buttons::YesNo, Icon::Exclamation, "Attention !");
+  if (fix == Answer::Yes) {
+    shrinkFrame(s.frame);
+    say(s, "The corresponding fix has been made!", "Attention !");
+  } else {
+    say(s, "Projection is Required for Your Project !", "Attention !");
+  }
+}
+
+}  // namespace
+
+void Mnprolus_Click(State& s) {
+  enableProjectMenuItems(s);
+  removeMarkers(s);
+  const std::optional<FileChoice> workbookFile = askWorkbook(s);
+  if (!workbookFile) return;
+
+  HoleWorkbook book(s.openSheet(workbookFile->path), workbookFile->path);
+  s.ui.setLabel(1, "File reading");
+  Holes& h = s.holes;
+  h.sondsay = book.countHoles();
+  int longest = 0;
+  for (int i = 1; i <= h.sondsay; ++i) {
+    h.satirsay[i] = book.countRows(i);
+    longest = std::max(longest, h.satirsay[i]);
+  }
+
+  const FileChoice projectFile = s.dialogs.saveFile("Write Project Name", kProjectFilter);
+  s.ui.setLabel(1, "Project creating");
+  Database db = Database::create(projectFile.path);
+  addProject(s, projectFile);
+  const int p = s.projects.projeno;
+  db.createTable(kPolTable, polFields());
+  const double layerGroups = (longest - 7) / 5.0;
+  const int slots = static_cast<int>(std::floor(layerGroups + 1));
+  db.createTable(kHoleTable, holeFields(slots));
+
+  for (bool Flags::*view : {&Flags::modyuzdeten, &Flags::modrezton, &Flags::modgenelrezerv,
+                            &Flags::modrecboy}) {
+    s.flags.*view = false;
+  }
+  s.canvas.cls();
+  s.ui.hide("HScroll1");
+
+  const ReadHoles read = readHoles(s, book, p);
+  db.createTable(kLogTable, logFields(slots, s.projects.litsay[p]));
+  writeLithologies(db, s, p);
+  const LayerFields fields(slots);
+  writeKor(db, h, read, fields);
+  writeLog(db, h, read, fields, s.projects.litsay[p]);
+  writePolHeader(db);
+  db.close();
+
+  selectNewProject(s);
+  frameReset(s);
+  checkNewProjectArea(s);
+  s.frame.haritagen = s.frame.ebxk - s.frame.ekxk;
+  s.frame.haritayuk = s.frame.ebyk - s.frame.ekyk;
+  setCanvasScale(s);
+  layoutAfterLoad(s);
+  s.ui.setLabel(1, "Project Ready");
+}
+
+}  // namespace tri

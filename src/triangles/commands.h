@@ -1,0 +1,25 @@
+// The commands and canvas events of the triangle network.
+#pragma once
+
+#include "platform/canvas.h"
+#include "store/state.h"
+
+namespace tri {
+
+// The repaint for work on the network: frame, grid, the triangles of the selected drawing
+// or limit table as black sides, and the holes on top.
+void ucgenplan(State& s);
+
+// The canvas mouse events, with the button (1 left, 2 right) and the point in world
+// units. Each runs the fixed chain of branches whose mode flags are on.
+void Picture1_MouseDown(State& s, int button, float x, float y);
+void Picture1_MouseMove(State& s, int button, float x, float y);
+void Picture1_MouseUp(State& s, int button, float x, float y);
+
+// Triangle entry: a pick at (x, y) with button 1, or a cancel with button 2.
+void ucgeciz(State& s, float x, float y, int button);
+
+// Fills one triangle, given in pixels, in one solid colour with no outline.
+void FillTriangle(Canvas& canvas, int x1, int y1, int x2, int y2, int x3, int y3, Color color);
+
+}  // namespace tri

@@ -1,0 +1,7 @@
+#include "triangles/commands.h"
+
+namespace tri {
+
+void ucgeciz(State&, float, float, int) {}
+
+}  // namespace tri

@@ -1,0 +1,56 @@
+// The fixed capacities of the program state.
+#include <gtest/gtest.h>
+
+#include "platform/fault.h"
+#include "store/state.h"
+#include "store/commands.h"
+#include "support/session.h"
+
+namespace tri {
+namespace {
+
+TEST(Capacity, IndexPastABoundIsASubscriptFaultNamingArrayAndIndex) {
+  Session session;
+  Projects& p = session.state.projects;
+  p.limdeger(1, 1, 1, 30).value = 2.5;
+  try {
+    p.limdeger(1, 1, 1, 31);
+    FAIL();
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.kind(), FaultKind::SubscriptOutOfRange);
+    EXPECT_EQ(fault.message(), "limdeger(1, 1, 1, 31)");
+  }
+  EXPECT_THROW(p.cizimad(1, 101, 1), Fault);
+  EXPECT_THROW(session.state.holes.ten(1000, 1), Fault);
+  EXPECT_THROW(session.state.holes.lit(1, -1), Fault);
+  EXPECT_NO_THROW(session.state.holes.uz(999, 999));
+}
+
+TEST(Capacity, ReadingAnUnsetEntryGivesTheEmptyValue) {
+  Session session;
+  const Projects& p = session.state.projects;
+  EXPECT_EQ(p.litad.get(100, 100), "");
+  EXPECT_EQ(p.limsay.get(3, 2, 1), 0);
+  EXPECT_EQ(session.state.holes.eks[3], 0);
+}
+
+TEST(Capacity, StartUpDefaults) {
+  ImageCanvas canvas;
+  ScriptedDialogs dialogs;
+  State s(canvas, dialogs);
+  s.frame.gridadim = 7;
+  Form_Load(s);
+  EXPECT_EQ(s.projects.projeno, 0);
+  EXPECT_EQ(s.frame.gridadim, 1);
+  EXPECT_FALSE(s.frame.olcekgirildi);
+  EXPECT_TRUE(s.flags.ilkmod);
+  EXPECT_FALSE(s.flags.modcizim);
+  EXPECT_FALSE(s.frame.gridgoster);
+  EXPECT_FALSE(s.ui.visible("HScroll1"));
+  // The first resize, when the window shows, clears it again.
+  Form_Resize(s, 800, 600);
+  EXPECT_FALSE(s.flags.ilkmod);
+}
+
+}  // namespace
+}  // namespace tri

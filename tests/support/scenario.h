@@ -1,0 +1,33 @@
+// Scenarios: end-to-end cases written as data, run headlessly through the real procedures
+// and the real store. One statement a line; '#' starts a comment.
+//
+//   answer input TEXT | answer file PATH | answer button OK|Cancel|Yes|No | answer color R G B
+//   command NAME            select ComboN INDEX        click X Y BUTTON       move X Y
+//   resize W H              save-image PATH            print-labels
+//   expect-label N TEXT     expect-combo ComboN TEXT...   (entries after the title, '|'-separated)
+//
+// PATHs are relative to the scenario file's folder; ${TMP} is a fresh folder of the run.
+// Exit codes: 0 done, 2 a bad statement, 3 a Fault, 4 a dialog without its answer,
+// 5 an expectation not met (answers left unused count as one).
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+namespace tri {
+
+enum ScenarioExit {
+  kScenarioDone = 0,
+  kScenarioBadStatement = 2,
+  kScenarioFault = 3,
+  kScenarioUnanswered = 4,
+  kScenarioExpectation = 5,
+};
+
+// Runs a scenario read from `script`; `folder` is where its relative paths start.
+int runScenario(std::istream& script, const std::string& folder, std::ostream& out,
+                std::ostream& err);
+
+int runScenarioFile(const std::string& path, std::ostream& out, std::ostream& err);
+
+}  // namespace tri
