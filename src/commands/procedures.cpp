@@ -1,6 +1,7 @@
 #include "commands/procedures.h"
 
 #include "canvas/commands.h"
+#include "limit/commands.h"
 #include "store/commands.h"
 #include "triangles/commands.h"
 
@@ -12,6 +13,12 @@ const std::vector<ProcedureEntry>& procedures() {
       {"Mnprojeac_Click", Mnprojeac_Click},
       {"Mnprolus_Click", Mnprolus_Click},
       {"Mncikis_Click", Mncikis_Click},
+      // Triangle
+      {"Mncizek_Click", Mncizek_Click},
+      {"Mncizduz_Click", Mncizduz_Click},
+      {"Mncizisil_Click", Mncizisil_Click},
+      {"Mnlimekle_Click", Mnlimekle_Click},
+      {"Mnlimsil_Click", Mnlimsil_Click},
       // Map
       {"Mnlimit_Click", Mnlimit_Click},
       // Selectors

@@ -102,6 +102,11 @@ class Sparse {
     return it == items_.end() ? empty_ : it->second;
   }
   void clear() { items_.clear(); }
+  // Raises the subscript Fault for indices outside the bounds, without storing anything.
+  template <class... I>
+  void checkIndex(I... indices) const {
+    check(Key{static_cast<long>(indices)...});
+  }
   // Removes every entry whose indices begin with `prefix`.
   template <class... I>
   void erasePrefix(I... prefix) {

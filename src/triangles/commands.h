@@ -6,6 +6,11 @@
 
 namespace tri {
 
+// Triangle, Draw: add a drawing, go on entering into the selected one, delete it.
+void Mncizek_Click(State& s);
+void Mncizduz_Click(State& s);
+void Mncizisil_Click(State& s);
+
 // The repaint for work on the network: frame, grid, the triangles of the selected drawing
 // or limit table as black sides, and the holes on top.
 void ucgenplan(State& s);

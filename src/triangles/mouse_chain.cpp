@@ -1,4 +1,9 @@
+#include "platform/store.h"
+#include "platform/vbtext.h"
+#include "store/hole_lists.h"
+#include "store/project_format.h"
 #include "triangles/commands.h"
+#include "triangles/entry.h"
 
 namespace tri {
 
@@ -46,7 +51,42 @@ void Picture1_MouseDown(State& s, int button, float x, float y) {
   }
 }
 
-void Picture1_MouseMove(State&, int, float, float) {}
+namespace {
+
+// Shows the ore entry and exit of the hole under the pointer, reading log afresh.
+void hoverOverHole(State& s, float x, float y) {
+  s.ui.hide("HScroll1");
+  s.ui.line1.visible = false;
+  {
+    Database db = Database::open(s.projectPath());
+    Recordset log = db.openTable(kLogTable);
+    loadHoleRecords(s, log, HoleListEnd::ZeroX);
+  }
+  startPickAt(s.entry);
+  const Holes& h = s.holes;
+  for (int i = 1; i <= h.sondsay; ++i) {
+    if (!holeMatches(h.eks[i], h.eye[i], x, y)) continue;
+    s.ui.picture1ToolTip =
+        "Giriş: " + numberText(h.cevgir[i]) + " Çıkış: " + numberText(h.cevcik[i]);
+    return;
+  }
+  s.ui.picture1ToolTip.clear();
+}
+
+// The rubber band of triangle entry, from the hole last held to the pointer.
+void followWithBand(State& s, float x, float y) {
+  const Entry& e = s.entry;
+  if (e.heldX == 0 || e.heldY == 0) return;
+  LineControl& band = s.ui.line1;
+  band = {true, e.heldX, e.heldY, x, y, 0, 1};
+}
+
+}  // namespace
+
+void Picture1_MouseMove(State& s, int, float x, float y) {
+  if (s.flags.modsucgen || s.flags.modtiklama) hoverOverHole(s, x, y);
+  if (s.flags.modcizim) followWithBand(s, x, y);
+}
 
 void Picture1_MouseUp(State&, int, float, float) {}
 

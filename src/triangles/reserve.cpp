@@ -1,0 +1,254 @@
+// The reserve arithmetic of a finished triangle: corner means from the logs of its three
+// holes, the triangle's tenor, density, mean ore length, plane area, cubage, tonnage and
+// reserve; its summary row; and the same triangle in every limit table of its drawing.
+#include <cmath>
+#include <vector>
+
+#include "platform/store.h"
+#include "platform/vbtext.h"
+#include "store/hole_lists.h"
+#include "store/ondayaz.h"
+#include "store/project_format.h"
+#include "triangles/entry.h"
+#include "triangles/reserve_math.h"
+
+namespace tri {
+
+namespace {
+
+// The log of each corner hole, corners 1..3.
+using CornerLogs = std::array<std::vector<Layer>, 4>;
+
+CornerLogs readCornerLogs(Database& db, const CornerHoles& holes) {
+  CornerLogs logs;
+  Recordset log = db.openTable(kLogTable);
+  for (int k = 1; k <= 3; ++k) {
+    log.moveFirst();
+    log.move(holes[k] - 1);
+    int count = 0;
+    while (count < kMaxLayers && log.number(numbered("ten", count + 1)) != 0) ++count;
+    for (int j = 1; j <= count; ++j) {
+      logs[k].push_back({log.text(numbered("lit", j)), log.number(numbered("ten", j)) / 1000,
+                         log.number(numbered("yog", j)) / 1000,
+                         log.number(numbered("uz", j)) / 1000});
+    }
+  }
+  return logs;
+}
+
+// Corner means of the layers of the selected lithology; a corner without such a layer
+// divides 0 by 0.
+CornerMeans baseCornerMeans(const CornerLogs& logs, const std::string& lithology) {
+  CornerMeans m;
+  for (int k = 1; k <= 3; ++k) {
+    double s1 = 0, s2 = 0, s3 = 0, s4 = 0;
+    for (const Layer& layer : logs[k]) {
+      if (layer.lit != lithology) continue;
+      m.length[k] += layer.uz;
+      s1 += layer.uz * layer.yog * layer.ten;
+      s2 += layer.uz * layer.yog;
+      s3 += layer.uz * layer.yog;
+      s4 += layer.uz;
+    }
+    m.tenor[k] = divide(s1, s2, "tenor of a corner hole without ore of the lithology");
+    m.density[k] = divide(s3, s4, "density of a corner hole without ore of the lithology");
+  }
+  return m;
+}
+
+double shoelaceArea(const Entry& e) {
+  const double a = (e.kosex[2] - e.kosex[3]) * e.kosey[1];
+  const double b = (e.kosex[3] - e.kosex[1]) * e.kosey[2];
+  const double c = (e.kosex[1] - e.kosex[2]) * e.kosey[3];
+  return std::abs((a + b + c) / 2);
+}
+
+// The extent of the triangle from its read-back corners, in chains where a later test is
+// only made when the one before did not replace the value. The rounded x3 also stands in
+// the chain of the greatest y: that is the rule.
+struct Extent {
+  double bx = 0, kx = 0, by = 0, ky = 0;
+};
+
+Extent triangleExtent(const Entry& e) {
+  const double x1 = e.readX[1], x2 = e.readX[2], x3 = e.readX[3];
+  const double y1 = e.readY[1], y2 = e.readY[2], y3 = e.readY[3];
+  const double roundedX3 = roundHalfEven(x3, 0);
+  Extent x;
+  x.bx = x1;
+  if (x.bx < roundedX3) {
+    x.bx = roundedX3;
+  } else if (x.bx < x2) {
+    x.bx = x2;
+  }
+  x.kx = x1;
+  if (x.kx > roundedX3) {
+    x.kx = roundedX3;
+  } else if (x.kx > x2) {
+    x.kx = x2;
+  }
+  x.by = y1;
+  if (x.by < y3) {
+    x.by = roundedX3;
+  } else if (x.by < y2) {
+    x.by = y2;
+  }
+  x.ky = y1;
+  if (x.ky > y3) {
+    x.ky = y3;
+  } else if (x.ky > y2) {
+    x.ky = y2;
+  }
+  return x;
+}
+
+// The values of one summary row, before ondayaz.
+struct Summary {
+  double length = 0;
+  double reserveKt = 0;
+  double tenor = 0;
+  double density = 0;
+  double area = 0;
+  double cubage = 0;
+  double tonnage = 0;
+};
+
+void appendSummaryRow(Recordset& table, const State& s, const Summary& v, const Extent& x) {
+  const Frame& f = s.frame;
+  table.addNew();
+  table.set("ilkuz", ondayaz(v.length));
+  table.set("ebxk", ondayaz(f.ebxk));
+  table.set("ekxk", ondayaz(f.ekxk));
+  table.set("ebyk", ondayaz(f.ebyk));
+  table.set("ekyk", ondayaz(f.ekyk));
+  table.set("genelrezerv", ondayaz(v.reserveKt));
+  table.set("geneltenor", ondayaz(v.tenor));
+  table.set("ortucgen1", ondayaz(std::abs(x.kx - x.bx)));
+  table.set("ortucgen2", ondayaz(std::abs(x.by - x.ky)));
+  table.set("ortucgen11", ondayaz(x.kx));
+  table.set("ortucgen21", ondayaz(x.ky));
+  table.set("ucgensay", s.entry.ucgenno);
+  table.set("genelyog", ondayaz(v.density));
+  table.set("ill", ondayaz(v.area));
+  table.set("kubaj", ondayaz(v.cubage));
+  table.set("tonaj", ondayaz(v.tonnage));
+  table.update();
+}
+
+void appendVertexRows(Recordset& table, const Holes& h, const CornerHoles& holes) {
+  for (int k = 1; k <= 3; ++k) {
+    const int hole = holes[k];
+    table.addNew();
+    table.set("koordinat1", ondayaz(h.eks[hole]));
+    table.set("koordinat2", ondayaz(h.eye[hole]));
+    table.set("say", hole);
+    table.set("sondgir", ondayaz(h.songir[hole]));
+    table.set("cevhgir", ondayaz(h.cevgir[hole]));
+    table.set("cevhcik", ondayaz(h.cevcik[hole]));
+    table.set("sondcik", ondayaz(h.soncik[hole]));
+    table.update();
+  }
+}
+
+// The corner means above a limit tenor, guarded against empty corners. The density sums
+// S3' and S4' are the run's: they go on adding up by corner position and are never
+// cleared, so earlier triangles weigh on a later triangle's limit density.
+CornerMeans limitCornerMeans(State& s, const CornerLogs& logs, const std::string& lithology,
+                             double limit) {
+  CornerMeans m;
+  Reserve& r = s.reserve;
+  for (int k = 1; k <= 3; ++k) {
+    double s1 = 0, s2 = 0;
+    for (const Layer& layer : logs[k]) {
+      if (layer.lit != lithology || !(layer.ten >= limit)) continue;
+      m.length[k] += layer.uz;
+      s1 += layer.uz * layer.yog * layer.ten;
+      s2 += layer.uz * layer.yog;
+      r.limitS3[k] += layer.uz * layer.yog;
+      r.limitS4[k] += layer.uz;
+    }
+    m.tenor[k] = guardedRatio(s1, s2);
+    m.density[k] = guardedRatio(r.limitS3[k], r.limitS4[k]);
+  }
+  return m;
+}
+
+// The next slot in use from `slot` on, skipping freed slots.
+long nextLimitSlot(const State& s, int p, int l, int d, long slot) {
+  while (s.projects.limdeger.get(p, l, d, slot).value == 0) ++slot;
+  return slot;
+}
+
+void appendToLimitTables(State& s, Database& db, const CornerLogs& logs,
+                         const CornerHoles& holes, double area, const Extent& extent) {
+  const int p = s.project();
+  const int l = s.lithology();
+  const int d = s.drawing();
+  const std::string lithology = s.ui.combo4.text();
+  const std::string drawing = s.ui.combo2.text();
+  long slot = 1;
+  for (int q = 1; q <= s.projects.limsay.get(p, l, d); ++q, ++slot) {
+    slot = nextLimitSlot(s, p, l, d, slot);
+    const LimitTenor& limit = s.projects.limdeger.get(p, l, d, slot);
+    Recordset table = db.openTable(limitTableName(limit.text, drawing));
+    appendVertexRows(table, s.holes, holes);
+    const CornerMeans corners = limitCornerMeans(s, logs, lithology, limit.value);
+    const TriangleMeans means = guardedTriangleMeans(corners);
+    Summary v;
+    v.length = means.length;
+    v.tenor = means.tenor;
+    v.density = means.density;
+    v.area = area;
+    v.cubage = means.length * area / 1000;
+    v.tonnage = means.length * area * means.density / 1000;
+    v.reserveKt = (means.length * area) * ((means.tenor / 100) * means.density) / 1000;
+    appendSummaryRow(table, s, v, extent);
+  }
+}
+
+}  // namespace
+
+void finishTriangle(State& s, Database& db, const CornerHoles& holes) {
+  const CornerLogs logs = readCornerLogs(db, holes);
+  const std::string lithology = s.ui.combo4.text();
+  const TriangleMeans means = triangleMeans(baseCornerMeans(logs, lithology));
+
+  Entry& e = s.entry;
+  Reserve& r = s.reserve;
+  const long t = ++e.ucgensira;
+  const double area = shoelaceArea(e);
+  s.ui.setLabel(13, "Area: " + numberText(roundHalfEven(area, 2)) + " m.kare");
+  s.ui.setLabel(7, "Triangle:" + std::to_string(t));
+  r.rezervler[t] = means.length * area * ((means.tenor / 100) * means.density);
+  // The running total meant to stand here was never kept: each triangle shows its own.
+  const double shown = 0 + 0 + r.rezervler[t];
+  s.ui.setLabel(12, "Total Reserve (KiloTon): " + numberText(roundHalfEven(shown / 1000, 5)));
+  const double perTriangle = (shown / 1000) / e.ucgenno;
+  r.rezervoran[t] =
+      divide(r.rezervler[t], perTriangle, "reserve ratio of a triangle with no reserve");
+
+  const Extent extent = triangleExtent(e);
+  r.ucgenbx[t] = extent.bx;
+  r.ucgenkx[t] = extent.kx;
+  r.ucgenby[t] = extent.by;
+  r.ucgenky[t] = extent.ky;
+
+  const double volume = means.length * area;
+  Summary v;
+  v.length = means.length;
+  v.reserveKt = r.rezervler[t] / 1000;
+  v.tenor = means.tenor;
+  v.density = means.density;
+  v.area = area;
+  v.cubage = volume / 1000;
+  v.tonnage = volume * means.density / 1000;
+  {
+    Recordset drawing = db.openTable(s.ui.combo2.text());
+    appendSummaryRow(drawing, s, v, extent);
+  }
+  appendToLimitTables(s, db, logs, holes, area, extent);
+  e.kosex = {};
+  e.kosey = {};
+}
+
+}  // namespace tri
