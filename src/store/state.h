@@ -133,7 +133,9 @@ struct Entry {
   // Corners by corner number and triangle number.
   Bounded2<double> cornerX{"ucgenx", 3, 1000};
   Bounded2<double> cornerY{"ucgeny", 3, 1000};
-  // The last hole a scan matched, the start of the rubber band; 0 hides the band.
+  // The last hole a scan matched, and the start of the rubber band; 0 hides the band.
+  double candidateX = 0;
+  double candidateY = 0;
   double heldX = 0;
   double heldY = 0;
   int matchCount = 0;

@@ -52,29 +52,32 @@ bool isPendingCorner(const Entry& e, int corner, double x, double y) {
 }
 
 // The first hole in the square that is not corner 1 or 2 of this triangle; 0 when none.
-// Every hole in the square is counted, and the last one seen is held for the rubber band
-// when it is one of those corners.
+// Every hole in the square is counted, and the last one seen is remembered.
 int scanForHole(State& s, float x, float y) {
   Entry& e = s.entry;
   const Holes& h = s.holes;
-  int accepted = 0;
-  bool sawCandidate = false;
-  double lastX = 0, lastY = 0;
+  e.candidateX = 0;
+  e.candidateY = 0;
   for (int i = 1; i <= h.sondsay; ++i) {
     if (!holeMatches(h.eks[i], h.eye[i], x, y)) continue;
     ++e.matchCount;
-    sawCandidate = true;
-    lastX = h.eks[i];
-    lastY = h.eye[i];
-    if (isPendingCorner(e, 1, lastX, lastY) || isPendingCorner(e, 2, lastX, lastY)) continue;
-    accepted = i;
-    break;
+    e.candidateX = h.eks[i];
+    e.candidateY = h.eye[i];
+    if (isPendingCorner(e, 1, h.eks[i], h.eye[i]) || isPendingCorner(e, 2, h.eks[i], h.eye[i])) {
+      continue;
+    }
+    return i;
   }
-  const bool heldCorner =
-      sawCandidate && (isPendingCorner(e, 1, lastX, lastY) || isPendingCorner(e, 2, lastX, lastY));
-  e.heldX = heldCorner ? lastX : 0;
-  e.heldY = heldCorner ? lastY : 0;
-  return accepted;
+  return 0;
+}
+
+// The last hole the scan saw starts the rubber band when it is corner 1 or 2.
+void holdBandStart(Entry& e) {
+  const bool corner = isPendingCorner(e, 1, e.candidateX, e.candidateY) ||
+                      isPendingCorner(e, 2, e.candidateX, e.candidateY);
+  const bool seen = e.candidateX != 0 || e.candidateY != 0;
+  e.heldX = seen && corner ? e.candidateX : 0;
+  e.heldY = seen && corner ? e.candidateY : 0;
 }
 
 void appendVertexRow(Recordset& table, const Holes& h, int hole) {
@@ -150,6 +153,8 @@ void cancelEntry(State& s, Recordset& drawing) {
   }
   e.noktasay = 0;
   e.matchCount = 0;
+  e.candidateX = 0;
+  e.candidateY = 0;
   e.heldX = 0;
   e.heldY = 0;
 }
@@ -233,6 +238,7 @@ void ucgeciz(State& s, float x, float y, int button) {
     return;
   }
   if (button == 1) pick(s, drawing, x, y);
+  holdBandStart(s.entry);
   drawing.close();
   const Entry& e = s.entry;
   if (e.noktasay != 0 && picksModThree(e) == 0) completeTriangle(s, db);
