@@ -28,19 +28,22 @@ void resetToTitle(Combo& combo, const char* title) {
 
 namespace {
 
-void selectTitle(Combo& combo, const char* title) {
-  combo.addItem(title);
-  combo.setListIndex(0);
+// The lists below the lithology at their titles. The drawing's title goes first, so that
+// the limit's title, chosen with it, redraws nothing.
+void selectTitlesBelowLithology(State& s) {
+  resetToTitle(s.ui.combo1, kLimitTitle);
+  resetToTitle(s.ui.combo2, kDrawingTitle);
+  s.ui.combo2.setListIndex(0);
+  s.ui.combo1.setListIndex(0);
 }
 
-// Clears the lists below the project and selects their titles.
-void resetBelowProject(State& s) {
-  s.ui.combo1.clear();
-  s.ui.combo2.clear();
-  s.ui.combo4.clear();
-  selectTitle(s.ui.combo1, kLimitTitle);
-  selectTitle(s.ui.combo2, kDrawingTitle);
-  selectTitle(s.ui.combo4, kLithologyTitle);
+// The lists below the project at their titles; choosing the lithology's title resets the
+// two below it.
+void selectTitlesBelowProject(State& s) {
+  resetToTitle(s.ui.combo1, kLimitTitle);
+  resetToTitle(s.ui.combo2, kDrawingTitle);
+  resetToTitle(s.ui.combo4, kLithologyTitle);
+  s.ui.combo4.setListIndex(0);
 }
 
 void reloadProjectHoles(State& s, int p) {
@@ -52,7 +55,7 @@ void reloadProjectHoles(State& s, int p) {
 }  // namespace
 
 void Combo5_Click(State& s) {
-  resetBelowProject(s);
+  selectTitlesBelowProject(s);
   if (s.ui.combo5.text() == kProjectTitle) return;
   const int p = s.ui.combo5.listIndex();
   for (int l = 1; l <= s.projects.litsay[p]; ++l) s.ui.combo4.addItem(s.projects.litad.get(p, l));
@@ -61,15 +64,12 @@ void Combo5_Click(State& s) {
 }
 
 void Combo4_Click(State& s) {
-  s.ui.combo1.clear();
-  s.ui.combo2.clear();
   if (s.ui.combo4.text() == kLithologyTitle) {
-    selectTitle(s.ui.combo1, kLimitTitle);
-    selectTitle(s.ui.combo2, kDrawingTitle);
+    selectTitlesBelowLithology(s);
     return;
   }
-  s.ui.combo1.addItem(kLimitTitle);
-  s.ui.combo2.addItem(kDrawingTitle);
+  resetToTitle(s.ui.combo1, kLimitTitle);
+  resetToTitle(s.ui.combo2, kDrawingTitle);
   const int p = s.project();
   const int l = s.lithology();
   for (int d = 1; d <= s.projects.cizimsay.get(p, l); ++d) {
@@ -78,8 +78,8 @@ void Combo4_Click(State& s) {
 }
 
 void Combo2_Click(State& s) {
-  s.ui.combo1.clear();
-  selectTitle(s.ui.combo1, kLimitTitle);
+  resetToTitle(s.ui.combo1, kLimitTitle);
+  s.ui.combo1.setListIndex(0);
   if (s.ui.combo2.text() == kDrawingTitle) return;
   const int p = s.project();
   const int l = s.lithology();

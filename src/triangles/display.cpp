@@ -24,6 +24,9 @@ void drawNetwork(State& s, Recordset& table) {
   Display& d = s.display;
   const int count = triangleCount(table);
   for (int t = 1; t <= count; ++t) {
+    // The summary row's tenor is read, though this repaint does not use it.
+    moveToSummary(table, t);
+    table.number("geneltenor");
     c.drawWidth = 1;
     c.foreColor = 0;
     const TriangleCorners v = readTriangleCorners(table, t);
