@@ -1,7 +1,220 @@
 #include "window/main_window.h"
 
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QVBoxLayout>
+
+#include "commands/procedures.h"
+#include "platform/fault.h"
+#include "store/commands.h"
+#include "triangles/commands.h"
+#include "window/print_panels.h"
+#include "window/qt_dialogs.h"
+
 namespace tri {
 
-MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {}
+namespace {
+
+struct SelectorSlot {
+  const char* name;
+  Combo Controls::*combo;
+};
+
+// Across the top, in this order.
+constexpr SelectorSlot kSelectors[] = {
+    {"Combo5", &Controls::combo5},
+    {"Combo4", &Controls::combo4},
+    {"Combo2", &Controls::combo2},
+    {"Combo1", &Controls::combo1},
+};
+
+// The status row: Label1 is the main status line and takes the most room.
+constexpr std::pair<int, int> kStatusLabels[] = {{1, 4}, {2, 1}, {3, 1}, {4, 1}, {7, 1}};
+
+constexpr int kScrollMaximum = 360;
+
+QString faultText(const Fault& fault) {
+  return QString::fromStdString(std::string(faultKindName(fault.kind())) + ": " + fault.message());
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Dialogs* dialogs, QWidget* parent)
+    : QMainWindow(parent),
+      ownDialogs_(dialogs ? nullptr : std::make_unique<QtDialogs>(this)),
+      state_(canvas_, dialogs ? *dialogs : *ownDialogs_),
+      reportFault_([this](const QString& title, const QString& text) {
+        QMessageBox::critical(this, title, text);
+      }) {
+  setWindowTitle(kProgramTitle);
+  connectControls(state_);
+  for (const auto& [number, caption] : printPanelCaptions()) state_.ui.setLabel(number, caption);
+  buildWidgets();
+  widgets_.menu =
+      buildMenuBar(menuBar(), menuRows(), [this](const std::string& name) { runProcedure(name); });
+  connectHooks();
+  resize(1100, 800);
+  runCommand([this] { Form_Load(state_); });
+}
+
+MainWindow::~MainWindow() {
+  // The widgets go before the state and the canvas they refer to.
+  ended_ = true;
+  state_.ui.onProgress = nullptr;
+  state_.ui.onLayout = nullptr;
+  delete takeCentralWidget();
+}
+
+void MainWindow::buildWidgets() {
+  auto* central = new QWidget(this);
+  auto* layout = new QVBoxLayout(central);
+  layout->addWidget(buildSelectorRow(central));
+  layout->addWidget(buildCanvasArea(central), 1);
+  layout->addWidget(buildScrollBar(central));
+  layout->addWidget(buildStatusRow(central));
+  setCentralWidget(central);
+  connectCanvas();
+}
+
+QWidget* MainWindow::buildSelectorRow(QWidget* parent) {
+  auto* row = new QWidget(parent);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  for (const SelectorSlot& slot : kSelectors) {
+    auto* box = new QComboBox(row);
+    box->setObjectName(slot.name);
+    box->setMinimumWidth(160);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    widgets_.combos.emplace_back(slot.combo, box);
+    Combo Controls::*combo = slot.combo;
+    connect(box, &QComboBox::activated, this, [this, combo](int index) {
+      runCommand([this, combo, index] { (state_.ui.*combo).setListIndex(index); });
+    });
+    layout->addWidget(box);
+  }
+  layout->addWidget(addLabel(widgets_, 12, row));
+  layout->addWidget(addLabel(widgets_, 13, row));
+  layout->addStretch();
+  return row;
+}
+
+QWidget* MainWindow::buildCanvasArea(QWidget* parent) {
+  auto* area = new QWidget(parent);
+  auto* layout = new QHBoxLayout(area);
+  layout->setContentsMargins(0, 0, 0, 0);
+  widgets_.picture1 = addPanel(widgets_, "Picture1", new CanvasView(canvas_, area));
+  layout->addWidget(widgets_.picture1, 1);
+  layout->addWidget(buildPreviewPage(widgets_, area), 0, Qt::AlignTop);
+  layout->addWidget(
+      buildPrintColumn(widgets_, area, [this](const std::string& name) { runProcedure(name); }));
+  return area;
+}
+
+QWidget* MainWindow::buildScrollBar(QWidget* parent) {
+  auto* bar = addPanel(widgets_, "HScroll1", new QScrollBar(Qt::Horizontal, parent));
+  bar->setRange(0, kScrollMaximum);
+  // A drag reports its value when the thumb is let go.
+  bar->setTracking(false);
+  widgets_.hscroll1 = bar;
+  connect(bar, &QScrollBar::valueChanged, this, [this](int value) {
+    runCommand([this, value] {
+      state_.ui.hscroll1Value = value;
+      if (Procedure change = findProcedure("HScroll1_Change")) change(state_);
+    });
+  });
+  return bar;
+}
+
+QWidget* MainWindow::buildStatusRow(QWidget* parent) {
+  auto* row = new QWidget(parent);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  for (const auto& [number, stretch] : kStatusLabels) {
+    QLabel* label = addLabel(widgets_, number, row);
+    label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    // Long texts are cut, so that a progress message never changes the layout.
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    layout->addWidget(label, stretch);
+  }
+  return row;
+}
+
+void MainWindow::connectCanvas() {
+  CanvasView* view = widgets_.picture1;
+  connect(view, &CanvasView::pressed, this, [this](int button, float x, float y) {
+    runCommand([=, this] { Picture1_MouseDown(state_, button, x, y); });
+  });
+  connect(view, &CanvasView::moved, this, [this](int button, float x, float y) {
+    runCommand([=, this] { Picture1_MouseMove(state_, button, x, y); });
+  });
+  connect(view, &CanvasView::released, this, [this](int button, float x, float y) {
+    runCommand([=, this] { Picture1_MouseUp(state_, button, x, y); });
+  });
+  connect(view, &CanvasView::resized, this,
+          [this](int width, int height) { resizeCanvas(QSize(width, height)); });
+}
+
+void MainWindow::connectHooks() {
+  state_.ui.onProgress = [this] { showProgress(); };
+  state_.ui.onLayout = [this] { reflectControls(state_.ui, widgets_); };
+}
+
+void MainWindow::runProcedure(const std::string& name) {
+  if (Procedure procedure = findProcedure(name)) runCommand([=, this] { procedure(state_); });
+}
+
+void MainWindow::runCommand(const std::function<void()>& command) {
+  if (ended_) return;
+  std::optional<QString> fault;
+  ++running_;
+  try {
+    command();
+  } catch (const Fault& f) {
+    fault = faultText(f);
+  } catch (const std::exception& e) {
+    fault = QString::fromStdString(e.what());
+  }
+  --running_;
+  if (fault) {
+    endWithFault(*fault);
+  } else if (running_ == 0) {
+    afterCommand();
+  }
+}
+
+void MainWindow::afterCommand() {
+  if (pendingResize_) {
+    const QSize size = *pendingResize_;
+    pendingResize_.reset();
+    resizeCanvas(size);
+    return;
+  }
+  reflectControls(state_.ui, widgets_);
+  widgets_.picture1->update();
+  if (state_.ui.closeRequested) close();
+}
+
+void MainWindow::resizeCanvas(QSize size) {
+  if (running_ > 0) {
+    pendingResize_ = size;
+    return;
+  }
+  runCommand([=, this] { Form_Resize(state_, size.width(), size.height()); });
+}
+
+void MainWindow::showProgress() {
+  widgets_.labels.at(1)->setText(QString::fromStdString(state_.ui.label(1)));
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void MainWindow::endWithFault(const QString& text) {
+  ended_ = true;
+  reportFault_("Run-time error", text);
+  close();
+  // Last, so that no quit on the closing of the last window replaces the code.
+  QCoreApplication::exit(1);
+}
 
 }  // namespace tri

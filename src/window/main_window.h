@@ -1,15 +1,68 @@
-// The program's one window.
+// The program's one window: the selectors, the canvas, the status line, the print panels
+// and the menu, over one program state. Every event that reaches the logic is followed by
+// a reflection of the controls into the widgets.
 #pragma once
 
 #include <QMainWindow>
+#include <QSize>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/image_canvas.h"
+#include "store/state.h"
+#include "window/controls_view.h"
 
 namespace tri {
+
+class QtDialogs;
 
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit MainWindow(QWidget* parent = nullptr);
+  // Tells the user of the run-time error that ends the program; by default a critical
+  // message box. Tests set their own to observe it without a modal box.
+  using FaultReporter = std::function<void(const QString& title, const QString& text)>;
+
+  // Without dialogs of its own the window asks the user through Qt dialogs.
+  explicit MainWindow(Dialogs* dialogs = nullptr, QWidget* parent = nullptr);
+  ~MainWindow() override;
+
+  State& state() { return state_; }
+  const ImageCanvas& canvas() const { return canvas_; }
+  void setFaultReporter(FaultReporter reporter) { reportFault_ = std::move(reporter); }
+  // True once a run-time error has ended the program: the window runs nothing more.
+  bool ended() const { return ended_; }
+
+ private:
+  QWidget* buildSelectorRow(QWidget* parent);
+  QWidget* buildCanvasArea(QWidget* parent);
+  QWidget* buildScrollBar(QWidget* parent);
+  QWidget* buildStatusRow(QWidget* parent);
+  void buildWidgets();
+  void connectCanvas();
+  void connectHooks();
+
+  // Runs a procedure of the procedures table by name; a name not in it does nothing.
+  void runProcedure(const std::string& name);
+  // Runs logic: a fault ends the program, otherwise the controls are reflected.
+  void runCommand(const std::function<void()>& command);
+  void afterCommand();
+  void resizeCanvas(QSize size);
+  void showProgress();
+  void endWithFault(const QString& text);
+
+  ImageCanvas canvas_;
+  std::unique_ptr<QtDialogs> ownDialogs_;
+  State state_;
+  ControlWidgets widgets_;
+  FaultReporter reportFault_;
+  int running_ = 0;
+  // A canvas resize that came while logic ran, applied when it has finished.
+  std::optional<QSize> pendingResize_;
+  bool ended_ = false;
 };
 
 }  // namespace tri
