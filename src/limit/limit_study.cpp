@@ -82,12 +82,8 @@ Bounded<std::vector<Layer>> readAllLogs(State& s, Database& db) {
     h.eye[i] = log.number("eye") / 1000;
     h.isim[i] = log.text("isim");
     std::vector<Layer>& layers = logs[i];
-    for (int j = 1; j <= kMaxLayers; ++j) {
-      const double tenor = log.number(numbered("ten", j));
-      if (tenor == 0) break;
-      layers.push_back({log.text(numbered("lit", j)), tenor / 1000,
-                        log.number(numbered("yog", j)) / 1000,
-                        log.number(numbered("uz", j)) / 1000});
+    for (const StoredLayer& layer : readStoredLog(log)) {
+      layers.push_back({layer.lit, layer.ten / 1000, layer.yog / 1000, layer.uz / 1000});
     }
     log.moveNext();
   }
@@ -226,6 +222,7 @@ void Mnlimekle_Click(State& s) {
 
   const std::string tableName = limitTableName(limit.text(), drawing);
   s.ui.combo1.addItem(limit.text());
+  WriteBatch batch = db.beginBatch();
   db.createTable(tableName, limitFields());
   {
     Recordset table = db.openTable(tableName);
@@ -237,6 +234,7 @@ void Mnlimekle_Click(State& s) {
     }
   }
   const int slot = recordLimitSlot(s, db, tableName, limit, limit.value());
+  batch.commit();
   db.close();
   s.ui.combo1.setListIndex(slot);
   s.ui.setLabel(1, "Ready");

@@ -54,7 +54,7 @@ class Bounded2 {
     check(i, j);
     if (static_cast<size_t>(i) >= rows_.size()) rows_.resize(i + 1);
     auto& row = rows_[i];
-    if (static_cast<size_t>(j) >= row.size()) row.resize(j + 1);
+    if (static_cast<size_t>(j) >= row.size()) grow(row, j);
     return row[j];
   }
   const T& operator()(long i, long j) const {
@@ -70,6 +70,12 @@ class Bounded2 {
   }
 
  private:
+  // Rows filled one entry after another grow in steps, not by one entry each time; entries
+  // never written read as the empty value either way.
+  void grow(std::vector<T>& row, long j) {
+    const size_t wanted = std::max<size_t>(j + 1, std::min<size_t>(2 * row.size() + 8, upper2_ + 1));
+    row.resize(wanted);
+  }
   void check(long i, long j) const {
     if (i < 0 || i > upper1_ || j < 0 || j > upper2_) throwSubscript(name_, {i, j});
   }

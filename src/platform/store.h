@@ -102,6 +102,23 @@ class Recordset {
   std::unique_ptr<Impl> impl_;
 };
 
+// The writes of a command that stores many rows in one go (a new project's holes, a limit
+// study), made one transaction: they reach the file together when the batch is committed,
+// or when it ends unfinished because a Fault ended the command. A killed process leaves
+// none of the batch. Every other update is in the file when update() returns.
+class WriteBatch {
+ public:
+  WriteBatch(WriteBatch&&) noexcept;
+  WriteBatch& operator=(WriteBatch&&) = delete;
+  ~WriteBatch();
+  void commit();
+
+ private:
+  friend class Database;
+  explicit WriteBatch(std::shared_ptr<Connection> connection);
+  std::shared_ptr<Connection> connection_;
+};
+
 // One project file. Each command opens it, works and closes it.
 class Database {
  public:
@@ -129,6 +146,8 @@ class Database {
 
   // A missing table is a Fault naming it and the file.
   Recordset openTable(const std::string& name);
+
+  WriteBatch beginBatch();
 
   void close();
 

@@ -1,9 +1,8 @@
 #include "platform/vbtext.h"
 
-#include <cerrno>
+#include <charconv>
 #include <cfenv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <limits>
 
@@ -15,11 +14,16 @@ std::string numberText(double x) {
   if (x == 0) return "0";
   if (std::isnan(x)) return "NaN";
   if (std::isinf(x)) return x > 0 ? "Inf" : "-Inf";
-  // %G at 15 digits is the runtime's rule: exponent form below 1E-4 and from 1E+15,
-  // trailing zeros dropped, at least two exponent digits.
+  // The general form at 15 digits (as printf's %.15G) is the runtime's rule: exponent form
+  // below 1E-4 and from 1E+15, trailing zeros dropped, at least two exponent digits.
   char buffer[40];
-  std::snprintf(buffer, sizeof buffer, "%.15G", x);
-  return buffer;
+  const auto [end, error] =
+      std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, 15);
+  std::string text(buffer, error == std::errc() ? end : buffer);
+  for (char& c : text) {
+    if (c == 'e') c = 'E';
+  }
+  return text;
 }
 
 namespace {
@@ -61,9 +65,13 @@ double toNumber(std::string_view text) {
   if (body.empty()) {
     throw Fault(FaultKind::TypeMismatch, "\"" + std::string(text) + "\" is not a number");
   }
+  if (body.front() == '+') body.remove_prefix(1);
+  double value = 0;
+  const auto [end, error] = std::from_chars(body.data(), body.data() + body.size(), value);
+  if (error == std::errc() && end == body.data() + body.size()) return value;
+  // Out of range: too small a number reads 0, too large is an overflow.
   std::string owned(body);
-  errno = 0;
-  double value = std::strtod(owned.c_str(), nullptr);
+  value = std::strtod(owned.c_str(), nullptr);
   if (std::isinf(value)) {
     throw Fault(FaultKind::Overflow, "\"" + owned + "\" is too large for a number");
   }

@@ -1,5 +1,7 @@
 #include "store/hole_lists.h"
 
+#include "store/project_format.h"
+
 namespace tri {
 
 bool isPointName(const std::string& isim) {
@@ -16,6 +18,22 @@ int countHoles(Recordset& rs, HoleListEnd end) {
     rs.moveNext();
   }
   return n - 1;
+}
+
+std::vector<StoredLayer> readStoredLog(const Recordset& rs, bool withFifth) {
+  std::vector<StoredLayer> layers;
+  for (int k = 1; k <= kMaxLayers; ++k) {
+    const double tenor = rs.number(layerField(LayerField::Ten, k));
+    if (tenor == 0) break;
+    StoredLayer layer;
+    layer.ten = tenor;
+    layer.yog = rs.number(layerField(LayerField::Yog, k));
+    layer.uz = rs.number(layerField(LayerField::Uz, k));
+    layer.lit = rs.text(layerField(LayerField::Lit, k));
+    if (withFifth) layer.dya = rs.number(layerField(LayerField::Dya, k));
+    layers.push_back(std::move(layer));
+  }
+  return layers;
 }
 
 namespace {
@@ -35,35 +53,45 @@ void readCoordinates(Holes& h, const Recordset& rs, int i) {
   h.eye[i] = rs.number("eye") / 1000;
 }
 
+// One walk both counts the holes and reads them: the rows read are those the count
+// passes over.
+template <class ReadHole>
+void walkHoles(State& s, Recordset& rs, HoleListEnd end, ReadHole readHole) {
+  Holes& h = s.holes;
+  rs.moveFirst();
+  int n = 1;
+  for (; n <= kMaxHoles; ++n) {
+    if (end == HoleListEnd::ZeroXOrPointName && isPointName(rs.text("isim"))) break;
+    if (rs.number("eks") == 0) break;
+    readHole(n);
+    rs.moveNext();
+  }
+  h.sondsay = n - 1;
+}
+
 }  // namespace
 
 void loadHoleCoordinates(State& s, Recordset& rs, HoleListEnd end) {
   Holes& h = s.holes;
-  h.sondsay = countHoles(rs, end);
   clearCoordinates(h);
-  rs.moveFirst();
-  for (int i = 1; i <= h.sondsay; ++i) {
+  walkHoles(s, rs, end, [&](int i) {
     readCoordinates(h, rs, i);
     h.isim[i] = rs.text("isim");
-    rs.moveNext();
-  }
+  });
 }
 
 void loadHoleRecords(State& s, Recordset& rs, HoleListEnd end) {
   Holes& h = s.holes;
-  h.sondsay = countHoles(rs, end);
   clearCoordinates(h);
   clearHoleValues(h);
-  rs.moveFirst();
-  for (int i = 1; i <= h.sondsay; ++i) {
+  walkHoles(s, rs, end, [&](int i) {
     readCoordinates(h, rs, i);
     h.isim[i] = rs.text("isim");
     h.songir[i] = rs.number("songir") / 1000;
     h.cevgir[i] = rs.number("cevgir") / 1000;
     h.cevcik[i] = rs.number("cevcik") / 1000;
     h.soncik[i] = rs.number("soncik") / 1000;
-    rs.moveNext();
-  }
+  });
 }
 
 }  // namespace tri

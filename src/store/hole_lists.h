@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/store.h"
 #include "store/state.h"
@@ -23,6 +24,19 @@ bool isPointName(const std::string& isim);
 // Counts the hole rows from the first row on, at most 999, and leaves the recordset on
 // the row that ended the count.
 int countHoles(Recordset& rs, HoleListEnd end);
+
+// One layer of a hole's log as it is stored: thousandths, and the lithology's name.
+struct StoredLayer {
+  std::string lit;
+  double ten = 0;
+  double yog = 0;
+  double uz = 0;
+  double dya = 0;
+};
+
+// The layers of the hole on the current row, up to the first slot whose tenor is 0 (at
+// most 999); the fifth quantity only when asked for.
+std::vector<StoredLayer> readStoredLog(const Recordset& rs, bool withFifth = false);
 
 // Sets sondsay and reads eks and eye (in metres) and isim of every hole; entries past the
 // last hole are cleared.

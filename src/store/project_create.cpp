@@ -136,23 +136,9 @@ ReadHoles readHoles(State& s, const HoleWorkbook& book, int p) {
   return read;
 }
 
-// Field names of the layer slots, made once.
-struct LayerFields {
-  explicit LayerFields(int slots) {
-    for (int n = 0; n <= slots; ++n) {
-      lit.push_back(numbered("lit", n));
-      ten.push_back(numbered("ten", n));
-      yog.push_back(numbered("yog", n));
-      uz.push_back(numbered("uz", n));
-      dya.push_back(numbered("dya", n));
-    }
-  }
-  std::vector<std::string> lit, ten, yog, uz, dya;
-};
-
 // Appends one hole as a row of kor or log: its values through ondayaz, its layers, and the
 // end of its log in the slot after the last layer.
-void appendHoleRow(Recordset& rs, const Holes& h, int i, int layers, const LayerFields& f) {
+void appendHoleRow(Recordset& rs, const Holes& h, int i, int layers) {
   rs.addNew();
   rs.set("eks", ondayaz(h.eks[i]));
   rs.set("eye", ondayaz(h.eye[i]));
@@ -162,17 +148,17 @@ void appendHoleRow(Recordset& rs, const Holes& h, int i, int layers, const Layer
   rs.set("soncik", ondayaz(h.soncik[i]));
   rs.set("isim", h.isim[i]);
   for (int k = 1; k <= layers; ++k) {
-    rs.set(f.lit[k], h.lit(i, k));
-    rs.set(f.ten[k], ondayaz(h.ten(i, k)));
-    rs.set(f.yog[k], ondayaz(h.yog(i, k)));
-    rs.set(f.uz[k], ondayaz(h.uz(i, k)));
-    rs.set(f.dya[k], ondayaz(h.dya(i, k)));
+    rs.set(layerField(LayerField::Lit, k), h.lit(i, k));
+    rs.set(layerField(LayerField::Ten, k), ondayaz(h.ten(i, k)));
+    rs.set(layerField(LayerField::Yog, k), ondayaz(h.yog(i, k)));
+    rs.set(layerField(LayerField::Uz, k), ondayaz(h.uz(i, k)));
+    rs.set(layerField(LayerField::Dya, k), ondayaz(h.dya(i, k)));
   }
 }
 
-void endHoleRow(Recordset& rs, int layers, const LayerFields& f) {
-  rs.set(f.lit[layers + 1], " ");
-  rs.set(f.ten[layers + 1], 0);
+void endHoleRow(Recordset& rs, int layers) {
+  rs.set(layerField(LayerField::Lit, layers + 1), " ");
+  rs.set(layerField(LayerField::Ten, layers + 1), 0);
   rs.update();
 }
 
@@ -182,24 +168,23 @@ void appendEndMark(Recordset& rs) {
   rs.update();
 }
 
-void writeKor(Database& db, const Holes& h, const ReadHoles& read, const LayerFields& f) {
+void writeKor(Database& db, const Holes& h, const ReadHoles& read) {
   Recordset kor = db.openTable(kHoleTable);
   for (int i = 1; i <= h.sondsay; ++i) {
-    appendHoleRow(kor, h, i, read.layers[i], f);
-    endHoleRow(kor, read.layers[i], f);
+    appendHoleRow(kor, h, i, read.layers[i]);
+    endHoleRow(kor, read.layers[i]);
   }
   appendEndMark(kor);
 }
 
-void writeLog(Database& db, const Holes& h, const ReadHoles& read, const LayerFields& f,
-              int lithologies) {
+void writeLog(Database& db, const Holes& h, const ReadHoles& read, int lithologies) {
   Recordset log = db.openTable(kLogTable);
   std::vector<std::string> marks;
   for (int k = 1; k <= lithologies; ++k) marks.push_back(numbered("deg", k));
   for (int i = 1; i <= h.sondsay; ++i) {
-    appendHoleRow(log, h, i, read.layers[i], f);
+    appendHoleRow(log, h, i, read.layers[i]);
     for (const std::string& mark : marks) log.set(mark, kMarkedNo);
-    endHoleRow(log, read.layers[i], f);
+    endHoleRow(log, read.layers[i]);
   }
   appendEndMark(log);
 }
@@ -292,12 +277,13 @@ void Mnprolus_Click(State& s) {
   s.ui.hide("HScroll1");
 
   const ReadHoles read = readHoles(s, book, p);
+  WriteBatch batch = db.beginBatch();
   db.createTable(kLogTable, logFields(slots, s.projects.litsay[p]));
   writeLithologies(db, s, p);
-  const LayerFields fields(slots);
-  writeKor(db, h, read, fields);
-  writeLog(db, h, read, fields, s.projects.litsay[p]);
+  writeKor(db, h, read);
+  writeLog(db, h, read, s.projects.litsay[p]);
   writePolHeader(db);
+  batch.commit();
   db.close();
 
   selectNewProject(s);

@@ -1,8 +1,22 @@
 #include "store/project_format.h"
 
+#include <array>
+
 namespace tri {
 
 std::string numbered(const char* stem, int n) { return stem + std::to_string(n); }
+
+const std::string& layerField(LayerField field, int slot) {
+  static const auto names = [] {
+    std::array<std::vector<std::string>, 5> made;
+    const char* stems[] = {"lit", "ten", "yog", "uz", "dya"};
+    for (size_t f = 0; f < made.size(); ++f) {
+      for (int n = 0; n <= 999; ++n) made[f].push_back(numbered(stems[f], n));
+    }
+    return made;
+  }();
+  return names[static_cast<size_t>(field)].at(static_cast<size_t>(slot));
+}
 
 namespace {
 

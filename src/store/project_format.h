@@ -19,6 +19,11 @@ inline constexpr const char* kFreeAreaTable = "askor";
 // A repeated field: the stem and the number, with no leading zeros ("ten12").
 std::string numbered(const char* stem, int n);
 
+// The five fields of a layer slot, whose names the readers of logs ask for by the
+// thousand: made once, for slots 1 to 999.
+enum class LayerField { Lit, Ten, Yog, Uz, Dya };
+const std::string& layerField(LayerField field, int slot);
+
 // Limit slots of a drawing's row in its lithology's table.
 inline constexpr int kLimitSlots = 30;
 // The slots that opening a project reads back.

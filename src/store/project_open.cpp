@@ -85,14 +85,14 @@ void loadHoleLogs(State& s, Database& db) {
     h.eks[i] = log.number("eks") / 1000;
     h.eye[i] = log.number("eye") / 1000;
     h.isim[i] = log.text("isim");
-    for (int k = 1; k <= kMaxLayers; ++k) {
-      const double tenor = log.number(numbered("ten", k));
-      if (tenor == 0) break;
-      h.ten(i, k) = tenor;
-      h.yog(i, k) = log.number(numbered("yog", k));
-      h.uz(i, k) = log.number(numbered("uz", k));
-      h.lit(i, k) = log.text(numbered("lit", k));
-      h.dya(i, k) = log.number(numbered("dya", k));
+    int k = 0;
+    for (const StoredLayer& layer : readStoredLog(log, true)) {
+      ++k;
+      h.ten(i, k) = layer.ten;
+      h.yog(i, k) = layer.yog;
+      h.uz(i, k) = layer.uz;
+      h.lit(i, k) = layer.lit;
+      h.dya(i, k) = layer.dya;
     }
     log.moveNext();
   }

@@ -24,12 +24,13 @@ void drawNetwork(State& s, Recordset& table) {
   Display& d = s.display;
   const int count = triangleCount(table);
   for (int t = 1; t <= count; ++t) {
-    // The summary row's tenor is read, though this repaint does not use it.
-    moveToSummary(table, t);
-    table.number("geneltenor");
     c.drawWidth = 1;
     c.foreColor = 0;
     const TriangleCorners v = readTriangleCorners(table, t);
+    // The summary row's tenor is read too, though this repaint does not use it: a summary
+    // row without it fails here.
+    table.moveNext();
+    table.number("geneltenor");
     c.line(v.x[3], v.y[3], v.x[2], v.y[2], 0);
     c.line(v.x[3], v.y[3], v.x[1], v.y[1], 0);
     c.line(v.x[1], v.y[1], v.x[2], v.y[2], 0);

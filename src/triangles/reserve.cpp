@@ -25,12 +25,8 @@ CornerLogs readCornerLogs(Database& db, const CornerHoles& holes) {
   for (int k = 1; k <= 3; ++k) {
     log.moveFirst();
     log.move(holes[k] - 1);
-    int count = 0;
-    while (count < kMaxLayers && log.number(numbered("ten", count + 1)) != 0) ++count;
-    for (int j = 1; j <= count; ++j) {
-      logs[k].push_back({log.text(numbered("lit", j)), log.number(numbered("ten", j)) / 1000,
-                         log.number(numbered("yog", j)) / 1000,
-                         log.number(numbered("uz", j)) / 1000});
+    for (const StoredLayer& layer : readStoredLog(log)) {
+      logs[k].push_back({layer.lit, layer.ten / 1000, layer.yog / 1000, layer.uz / 1000});
     }
   }
   return logs;

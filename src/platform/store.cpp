@@ -1,0 +1,788 @@
+#include "platform/store.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+#include <cstring>
+#include <filesystem>
+#include <limits>
+#include <unordered_set>
+
+#include "platform/store_connection.h"
+#include "platform/vbtext.h"
+
+namespace tri {
+
+namespace {
+
+using store_internal::columnText;
+using store_internal::equalNoCase;
+using store_internal::fail;
+using store_internal::isReservedName;
+using store_internal::NoCaseEqual;
+using store_internal::NoCaseHash;
+using store_internal::shown;
+using store_internal::sqlName;
+using store_internal::Statement;
+
+constexpr long kMaxTextChars = 255;
+constexpr double kLongMin = std::numeric_limits<std::int32_t>::min();
+constexpr double kLongMax = std::numeric_limits<std::int32_t>::max();
+
+void requireUsableName(const char* what, std::string_view name, std::string_view table) {
+  std::string where = table.empty() ? std::string() : " in table " + shown(table);
+  if (name.empty()) fail(FaultKind::Database, std::string("a ") + what + " needs a name" + where);
+  for (unsigned char c : name) {
+    if (c < 0x20 || c == 0x7f) {
+      fail(FaultKind::Database, std::string("the ") + what + " name " + shown(name) + where +
+                                    " holds a control character");
+    }
+  }
+}
+
+bool fitsLong(double x) { return x >= kLongMin && x <= kLongMax; }
+
+// A stored value as its field's type reads it. The store itself writes only integers into
+// Long fields and texts into Text fields; other storage comes from files made elsewhere.
+Value columnValue(sqlite3_stmt* stmt, int column, FieldType type) {
+  switch (sqlite3_column_type(stmt, column)) {
+    case SQLITE_NULL:
+      return {};
+    case SQLITE_INTEGER: {
+      std::int64_t n = sqlite3_column_int64(stmt, column);
+      if (type == FieldType::Long && fitsLong(static_cast<double>(n))) {
+        return Value(static_cast<std::int32_t>(n));
+      }
+      return Value(std::to_string(n));
+    }
+    case SQLITE_FLOAT: {
+      double x = sqlite3_column_double(stmt, column);
+      double whole = roundHalfEven(x, 0);
+      if (type == FieldType::Long && fitsLong(whole))
+        return Value(static_cast<std::int32_t>(whole));
+      return Value(numberText(x));
+    }
+    default:
+      return Value(columnText(stmt, column));
+  }
+}
+
+void bindValue(sqlite3_stmt* stmt, int parameter, const Value& value) {
+  if (value.isNumber()) {
+    sqlite3_bind_int(stmt, parameter, value.asNumber());
+  } else if (value.isText()) {
+    const std::string& text = value.asText();
+    sqlite3_bind_text(stmt, parameter, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
+  } else {
+    sqlite3_bind_null(stmt, parameter);
+  }
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------------------------------
+// Recordset
+
+namespace {
+enum class Editing { None, NewRow, CurrentRow };
+}  // namespace
+
+struct Recordset::Impl {
+  std::string name;
+  std::shared_ptr<Connection> connection;
+  std::shared_ptr<TableInfo> table;
+  // The row list is read when it is first needed: a recordset that only appends rows never
+  // reads it.
+  std::vector<std::int64_t> rowids;
+  bool rowsKnown = false;
+  long appendedBeforeLoad = 0;
+  std::uint64_t seenVersion = 0;
+  // -1 is before the first row, rowids.size() after the last.
+  long position = 0;
+  // After remove() the deleted row stays current: `position` is then the row after it.
+  bool onDeletedRow = false;
+  std::int64_t deletedRowid = 0;
+  Editing editing = Editing::None;
+  std::vector<Value> buffer;
+  std::int64_t editedRowid = 0;
+  bool closed = false;
+  mutable int lastColumn = -1;
+
+  Impl& live();
+  long count() const { return static_cast<long>(rowids.size()); }
+  bool atBof() const { return !onDeletedRow && (rowids.empty() || position < 0); }
+  bool atEof() const { return !onDeletedRow && (rowids.empty() || position >= count()); }
+
+  void loadRows();
+  void ensureRows();
+  void followChanges() {
+    if (rowsKnown && seenVersion != table->rowsVersion) reloadRows();
+  }
+  void reloadRows();
+  void leaveRow();
+  void moveForward(unsigned long steps);
+  void moveBack(unsigned long steps);
+
+  void requireCurrentRow() const;
+  // The row statement positioned on the current row.
+  sqlite3_stmt* currentRow();
+  sqlite3_stmt* positionOnCurrentRow();
+  int column(const std::string& field) const;
+  FieldType typeOf(int column) const { return table->fields[column].type; }
+  std::string where(int column) const;
+  std::string rowLabel() const;
+  Value read(int column);
+  double numberOf(const Value& value, int column) const;
+  std::string textOf(const Value& value) const;
+
+  // `action` names what needed the buffer, such as "set" or "update".
+  void requireEditing(const char* action, int column) const;
+  Value fromNumber(int column, double number) const;
+  Value fromText(int column, const std::string& text) const;
+  void bindBuffer(sqlite3_stmt* stmt) const;
+  // `action` says what failed, as in "cannot <action> of table ...".
+  void stepWrite(sqlite3_stmt* stmt, const char* action);
+  void appendBuffer();
+  void writeBackBuffer();
+  void deleteCurrentRow();
+  void noteRowsChanged() { seenVersion = ++table->rowsVersion; }
+};
+
+namespace {
+
+// Access to a recordset's state, with a Fault for one that was moved away.
+template <typename ImplPointer>
+auto& liveState(const ImplPointer& impl) {
+  if (!impl) fail(FaultKind::Database, "the recordset was moved to another variable");
+  return impl->live();
+}
+
+// The same, for what needs the row list.
+template <typename ImplPointer>
+auto& liveRows(const ImplPointer& impl) {
+  auto& state = liveState(impl);
+  state.ensureRows();
+  return state;
+}
+
+}  // namespace
+
+Recordset::Impl& Recordset::Impl::live() {
+  if (closed) fail(FaultKind::Database, "the recordset of table " + shown(name) + " is closed");
+  if (!connection->isOpen()) {
+    fail(FaultKind::Database, "the project database " + shown(connection->path) +
+                                  " is closed; table " + shown(name) + " cannot be used");
+  }
+  if (table->dropped) {
+    fail(FaultKind::Database,
+         "table " + shown(name) + " was deleted from " + shown(connection->path));
+  }
+  followChanges();
+  return *this;
+}
+
+void Recordset::Impl::loadRows() {
+  sqlite3_stmt* stmt = table->statement(Statement::Rowids, *connection);
+  rowids.clear();
+  int rc;
+  while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) rowids.push_back(sqlite3_column_int64(stmt, 0));
+  if (rc != SQLITE_DONE)
+    connection->stepFault(stmt, "cannot read the rows of table " + shown(name));
+  sqlite3_reset(stmt);
+  seenVersion = table->rowsVersion;
+}
+
+void Recordset::Impl::ensureRows() {
+  if (rowsKnown) return;
+  loadRows();
+  rowsKnown = true;
+  // Opened on its first row; the rows it appended since lie after those it was opened on.
+  position = count() > appendedBeforeLoad ? 0 : count();
+}
+
+// Another recordset of the table added or deleted rows: reload the row list and find the
+// current row again by its rowid.
+void Recordset::Impl::reloadRows() {
+  bool beforeFirst = position < 0;
+  bool afterLast = !onDeletedRow && position >= count();
+  std::int64_t current = onDeletedRow               ? deletedRowid
+                         : afterLast || beforeFirst ? 0
+                                                    : rowids[position];
+  loadRows();
+  if (beforeFirst) return;
+  if (afterLast) {
+    position = count();
+    return;
+  }
+  auto found = std::lower_bound(rowids.begin(), rowids.end(), current);
+  position = static_cast<long>(found - rowids.begin());
+  if (!onDeletedRow && (found == rowids.end() || *found != current)) {
+    onDeletedRow = true;
+    deletedRowid = current;
+  }
+}
+
+// Every move ends an unfinished addNew or edit, as the engine's recordsets do.
+void Recordset::Impl::leaveRow() {
+  editing = Editing::None;
+  buffer.clear();
+  onDeletedRow = false;
+}
+
+void Recordset::Impl::moveForward(unsigned long steps) {
+  if (atEof()) fail(FaultKind::NoCurrentRecord, "cannot move past the end of table " + shown(name));
+  // From a deleted row the first step lands on the row after it, which is `position`.
+  long start = onDeletedRow ? position - 1 : position;
+  leaveRow();
+  if (steps > static_cast<unsigned long>(count() - start)) {
+    position = count();
+    fail(FaultKind::NoCurrentRecord, "cannot move past the end of table " + shown(name));
+  }
+  position = start + static_cast<long>(steps);
+}
+
+void Recordset::Impl::moveBack(unsigned long steps) {
+  if (atBof()) {
+    fail(FaultKind::NoCurrentRecord, "cannot move before the start of table " + shown(name));
+  }
+  leaveRow();
+  if (steps > static_cast<unsigned long>(position + 1)) {
+    position = -1;
+    fail(FaultKind::NoCurrentRecord, "cannot move before the start of table " + shown(name));
+  }
+  position -= static_cast<long>(steps);
+}
+
+void Recordset::Impl::requireCurrentRow() const {
+  if (onDeletedRow) {
+    fail(FaultKind::Database,
+         "Record is deleted: the current row of table " + shown(name) + " was deleted");
+  }
+  if (position < 0 || position >= count()) {
+    fail(FaultKind::NoCurrentRecord, "table " + shown(name) + " has no current row");
+  }
+}
+
+sqlite3_stmt* Recordset::Impl::currentRow() {
+  bool onRow = !onDeletedRow && position >= 0 && position < count();
+  if (onRow && table->positioned && table->positionedRowid == rowids[position]) {
+    return table->rows();
+  }
+  return positionOnCurrentRow();
+}
+
+sqlite3_stmt* Recordset::Impl::positionOnCurrentRow() {
+  requireCurrentRow();
+  std::int64_t rowid = rowids[position];
+  sqlite3_stmt* stmt = table->statement(Statement::Rows, *connection);
+  auto onWantedRow = [&](int rc) {
+    return rc == SQLITE_ROW && (!table->rowsCarryRowid || sqlite3_column_int64(stmt, 0) == rowid);
+  };
+  bool nextRow = table->rowsCarryRowid && table->positioned && position > 0 &&
+                 rowids[position - 1] == table->positionedRowid;
+  int rc = nextRow ? sqlite3_step(stmt) : SQLITE_DONE;
+  if (!onWantedRow(rc)) {
+    sqlite3_reset(stmt);
+    sqlite3_bind_int64(stmt, 1, rowid);
+    rc = sqlite3_step(stmt);
+  }
+  if (onWantedRow(rc)) {
+    table->positioned = true;
+    table->positionedRowid = rowid;
+    return stmt;
+  }
+  table->positioned = false;
+  if (rc == SQLITE_ROW || rc == SQLITE_DONE) {
+    sqlite3_reset(stmt);
+    fail(FaultKind::Database, "Record is deleted: " + rowLabel() + " of table " + shown(name) +
+                                  " is no longer in " + shown(connection->path));
+  }
+  connection->stepFault(stmt, "cannot read " + rowLabel() + " of table " + shown(name));
+}
+
+int Recordset::Impl::column(const std::string& field) const {
+  // Rows are mostly read field after field in table order, or in small groups around it,
+  // as the five fields of a layer: look near the last field before the hash table.
+  const int fieldCount = static_cast<int>(table->fields.size());
+  for (int offset : {1, 2, 3, 4, 5, -1, -2, -3, -4, -5, 0}) {
+    const int near = lastColumn + offset;
+    if (near < 0 || near >= fieldCount) continue;
+    const std::string& name = table->fields[near].name;
+    if (name.size() == field.size() && equalNoCase(name, field)) return lastColumn = near;
+  }
+  auto found = table->columnOf.find(field);
+  if (found == table->columnOf.end()) {
+    fail(FaultKind::Database, "Item not found in this collection: table " + shown(name) +
+                                  " has no field " + shown(field));
+  }
+  return lastColumn = found->second;
+}
+
+std::string Recordset::Impl::where(int column) const {
+  return "field " + shown(table->fields[column].name) + " of table " + shown(name);
+}
+
+std::string Recordset::Impl::rowLabel() const {
+  if (editing == Editing::NewRow) return "the new row";
+  return "row " + std::to_string(position + 1);
+}
+
+Value Recordset::Impl::read(int column) {
+  if (editing != Editing::None) return buffer[column];
+  const int at = table->resultColumn(column);
+  return columnValue(currentRow(), at, typeOf(column));
+}
+
+double Recordset::Impl::numberOf(const Value& value, int column) const {
+  if (value.isNumber()) return value.asNumber();
+  if (value.isNull()) {
+    fail(FaultKind::InvalidUseOfNull, where(column) + " is Null in " + rowLabel());
+  }
+  try {
+    return toNumber(value.asText());
+  } catch (const Fault& fault) {
+    fail(fault.kind(), where(column) + " in " + rowLabel() + ": " + fault.message());
+  }
+}
+
+std::string Recordset::Impl::textOf(const Value& value) const {
+  if (value.isText()) return value.asText();
+  if (value.isNumber()) return numberText(value.asNumber());
+  return {};
+}
+
+void Recordset::Impl::requireEditing(const char* action, int column) const {
+  if (editing != Editing::None) return;
+  std::string what = column < 0 ? "table " + shown(name) : where(column);
+  fail(FaultKind::Database,
+       std::string("Update or CancelUpdate without AddNew or Edit: ") + action + " of " + what);
+}
+
+Value Recordset::Impl::fromNumber(int column, double number) const {
+  if (typeOf(column) == FieldType::Text) return Value(numberText(number));
+  // Most numbers are whole already; rounding changes the FPU mode twice.
+  double whole = std::trunc(number) == number ? number : roundHalfEven(number, 0);
+  if (!fitsLong(whole)) {
+    fail(FaultKind::Overflow, numberText(number) + " does not fit " + where(column) +
+                                  ", a whole number from -2147483648 to 2147483647");
+  }
+  return Value(static_cast<std::int32_t>(whole));
+}
+
+Value Recordset::Impl::fromText(int column, const std::string& text) const {
+  if (typeOf(column) == FieldType::Long) {
+    double number;
+    try {
+      number = toNumber(text);
+    } catch (const Fault& fault) {
+      fail(fault.kind(), where(column) + " takes numbers: " + fault.message());
+    }
+    return fromNumber(column, number);
+  }
+  // A character takes at least one byte, so a short text needs no counting.
+  long length = text.size() > static_cast<size_t>(kMaxTextChars) ? charCount(text) : 0;
+  if (length > kMaxTextChars) {
+    fail(FaultKind::Database,
+         "The field is too small to accept the amount of data: " + where(column) +
+             " takes 255 characters, not " + std::to_string(length));
+  }
+  return Value(text);
+}
+
+void Recordset::Impl::bindBuffer(sqlite3_stmt* stmt) const {
+  for (size_t i = 0; i < buffer.size(); ++i) bindValue(stmt, static_cast<int>(i + 1), buffer[i]);
+}
+
+// Runs a write to its end; in autocommit mode it is committed when the step returns. The
+// texts bound without a copy are not read again: every run binds all its parameters anew.
+void Recordset::Impl::stepWrite(sqlite3_stmt* stmt, const char* action) {
+  int rc = sqlite3_step(stmt);
+  if (rc != SQLITE_DONE) {
+    connection->stepFault(stmt, std::string("cannot ") + action + " of table " + shown(name));
+  }
+  sqlite3_reset(stmt);
+}
+
+void Recordset::Impl::appendBuffer() {
+  connection->beforeWrite();
+  sqlite3_stmt* stmt = table->statement(Statement::Insert, *connection);
+  bindBuffer(stmt);
+  stepWrite(stmt, "add a row");
+  if (!rowsKnown) {
+    ++appendedBeforeLoad;
+    noteRowsChanged();
+    return;
+  }
+  std::int64_t rowid = sqlite3_last_insert_rowid(connection->db.get());
+  bool afterLast = !onDeletedRow && position >= count();
+  auto at = std::upper_bound(rowids.begin(), rowids.end(), rowid);
+  if (!afterLast && at - rowids.begin() <= position) ++position;
+  rowids.insert(at, rowid);
+  if (afterLast) position = count();
+  noteRowsChanged();
+}
+
+void Recordset::Impl::writeBackBuffer() {
+  connection->beforeWrite();
+  sqlite3_stmt* stmt = table->statement(Statement::Update, *connection);
+  bindBuffer(stmt);
+  sqlite3_bind_int64(stmt, static_cast<int>(buffer.size() + 1), editedRowid);
+  stepWrite(stmt, "update the edited row");
+  if (sqlite3_changes(connection->db.get()) == 0) {
+    fail(FaultKind::Database, "Record is deleted: the edited row of table " + shown(name) +
+                                  " was deleted before the update");
+  }
+}
+
+void Recordset::Impl::deleteCurrentRow() {
+  requireCurrentRow();
+  connection->beforeWrite();
+  std::int64_t rowid = rowids[position];
+  sqlite3_stmt* stmt = table->statement(Statement::Delete, *connection);
+  sqlite3_bind_int64(stmt, 1, rowid);
+  stepWrite(stmt, "delete the current row");
+  rowids.erase(rowids.begin() + position);
+  editing = Editing::None;
+  buffer.clear();
+  onDeletedRow = true;
+  deletedRowid = rowid;
+  noteRowsChanged();
+}
+
+Recordset::Recordset(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
+Recordset::Recordset(Recordset&&) noexcept = default;
+Recordset& Recordset::operator=(Recordset&&) noexcept = default;
+Recordset::~Recordset() = default;
+
+const std::string& Recordset::tableName() const {
+  if (!impl_) fail(FaultKind::Database, "the recordset was moved to another variable");
+  return impl_->name;
+}
+
+const std::vector<FieldDef>& Recordset::fields() const { return liveState(impl_).table->fields; }
+long Recordset::recordCount() const { return liveRows(impl_).count(); }
+bool Recordset::bof() const { return liveRows(impl_).atBof(); }
+bool Recordset::eof() const { return liveRows(impl_).atEof(); }
+
+void Recordset::moveFirst() {
+  Impl& r = liveRows(impl_);
+  if (r.rowids.empty()) fail(FaultKind::NoCurrentRecord, "table " + shown(r.name) + " is empty");
+  r.leaveRow();
+  r.position = 0;
+}
+
+void Recordset::moveLast() {
+  Impl& r = liveRows(impl_);
+  if (r.rowids.empty()) fail(FaultKind::NoCurrentRecord, "table " + shown(r.name) + " is empty");
+  r.leaveRow();
+  r.position = r.count() - 1;
+}
+
+void Recordset::moveNext() { liveRows(impl_).moveForward(1); }
+void Recordset::movePrevious() { liveRows(impl_).moveBack(1); }
+
+void Recordset::move(long rows) {
+  Impl& r = liveRows(impl_);
+  if (rows > 0) r.moveForward(static_cast<unsigned long>(rows));
+  // Negated in unsigned arithmetic, where even the most negative count has a magnitude.
+  if (rows < 0) r.moveBack(0ul - static_cast<unsigned long>(rows));
+}
+
+Value Recordset::get(const std::string& field) const {
+  Impl& r = liveRows(impl_);
+  return r.read(r.column(field));
+}
+
+bool Recordset::isNull(const std::string& field) const { return get(field).isNull(); }
+
+double Recordset::number(const std::string& field) const {
+  Impl& r = liveRows(impl_);
+  int column = r.column(field);
+  if (r.editing == Editing::None) {
+    const int at = r.table->resultColumn(column);
+    sqlite3_value* value = sqlite3_column_value(r.currentRow(), at);
+    if (sqlite3_value_type(value) == SQLITE_INTEGER) {
+      return static_cast<double>(sqlite3_value_int64(value));
+    }
+  }
+  return r.numberOf(r.read(column), column);
+}
+
+std::string Recordset::text(const std::string& field) const {
+  Impl& r = liveRows(impl_);
+  int column = r.column(field);
+  if (r.editing == Editing::None) {
+    const int at = r.table->resultColumn(column);
+    sqlite3_value* value = sqlite3_column_value(r.currentRow(), at);
+    if (sqlite3_value_type(value) == SQLITE_TEXT) {
+      return std::string(reinterpret_cast<const char*>(sqlite3_value_text(value)),
+                         static_cast<size_t>(sqlite3_value_bytes(value)));
+    }
+  }
+  return r.textOf(r.read(column));
+}
+
+void Recordset::addNew() {
+  Impl& r = liveState(impl_);
+  r.buffer.assign(r.table->fields.size(), Value());
+  r.editing = Editing::NewRow;
+}
+
+void Recordset::edit() {
+  Impl& r = liveRows(impl_);
+  r.table->selectAllFields();
+  sqlite3_stmt* stmt = r.currentRow();
+  std::vector<Value> values;
+  values.reserve(r.table->fields.size());
+  for (int i = 0; i < static_cast<int>(r.table->fields.size()); ++i) {
+    values.push_back(columnValue(stmt, r.table->firstField() + i, r.typeOf(i)));
+  }
+  r.buffer = std::move(values);
+  r.editedRowid = r.rowids[r.position];
+  r.editing = Editing::CurrentRow;
+}
+
+void Recordset::set(const std::string& field, double number) {
+  Impl& r = liveState(impl_);
+  int column = r.column(field);
+  r.requireEditing("set", column);
+  r.buffer[column] = r.fromNumber(column, number);
+}
+
+void Recordset::set(const std::string& field, const std::string& text) {
+  Impl& r = liveState(impl_);
+  int column = r.column(field);
+  r.requireEditing("set", column);
+  r.buffer[column] = r.fromText(column, text);
+}
+
+void Recordset::setNull(const std::string& field) {
+  Impl& r = liveState(impl_);
+  int column = r.column(field);
+  r.requireEditing("set", column);
+  r.buffer[column] = Value();
+}
+
+void Recordset::update() {
+  Impl& r = liveState(impl_);
+  r.requireEditing("update", -1);
+  if (r.editing == Editing::NewRow) {
+    r.appendBuffer();
+  } else {
+    r.writeBackBuffer();
+  }
+  r.editing = Editing::None;
+  r.buffer.clear();
+}
+
+void Recordset::cancelUpdate() {
+  Impl& r = liveState(impl_);
+  r.requireEditing("cancelUpdate", -1);
+  r.editing = Editing::None;
+  r.buffer.clear();
+}
+
+void Recordset::remove() { liveRows(impl_).deleteCurrentRow(); }
+
+void Recordset::close() {
+  if (!impl_ || impl_->closed) return;
+  impl_->closed = true;
+  impl_->rowids.clear();
+  impl_->buffer.clear();
+  impl_->table.reset();
+  impl_->connection.reset();
+}
+
+// ---------------------------------------------------------------------------------------
+// Database
+
+namespace {
+
+Connection& liveConnection(const std::shared_ptr<Connection>& connection) {
+  if (!connection) fail(FaultKind::Database, "the project database was moved to another variable");
+  if (!connection->isOpen()) {
+    fail(FaultKind::Database, "the project database " + shown(connection->path) + " is closed");
+  }
+  return *connection;
+}
+
+// The engine takes a short file of any content for an empty database and would write its
+// header over it, so the file's own header decides first.
+void requireProjectFile(const std::string& path) {
+  std::error_code error;
+  auto status = std::filesystem::status(path, error);
+  std::string notProject = shown(path) + " is not a project database: ";
+  if (status.type() == std::filesystem::file_type::not_found) {
+    fail(FaultKind::Database, notProject + "there is no such file");
+  }
+  if (error) fail(FaultKind::Database, notProject + error.message());
+  if (!std::filesystem::is_regular_file(status))
+    fail(FaultKind::Database, notProject + "not a file");
+  static constexpr char kHeader[] = "SQLite format 3";  // with its closing zero: 16 bytes
+  char header[sizeof kHeader] = {};
+  int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (fd < 0) fail(FaultKind::Database, "cannot open " + shown(path) + ": " + std::strerror(errno));
+  ssize_t got = ::read(fd, header, sizeof header);
+  ::close(fd);
+  if (got != static_cast<ssize_t>(sizeof header) ||
+      std::memcmp(header, kHeader, sizeof header) != 0) {
+    fail(FaultKind::Database, notProject + "it does not begin with a database header");
+  }
+}
+
+void createEmptyFile(const std::string& path) {
+  int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  if (fd < 0) {
+    int error = errno;
+    if (error == EEXIST) {
+      fail(FaultKind::Database, "cannot create " + shown(path) + ": the file exists already");
+    }
+    fail(FaultKind::Database, "cannot create " + shown(path) + ": " + std::strerror(error));
+  }
+  ::close(fd);
+}
+
+}  // namespace
+
+Database::Database(std::shared_ptr<Connection> connection) : connection_(std::move(connection)) {}
+Database::Database(Database&&) noexcept = default;
+Database& Database::operator=(Database&&) noexcept = default;
+Database::~Database() = default;
+
+Database Database::create(const std::string& path) {
+  createEmptyFile(path);
+  try {
+    return Database(Connection::connect(path));
+  } catch (...) {
+    std::error_code ignored;
+    std::filesystem::remove(path, ignored);
+    throw;
+  }
+}
+
+Database Database::open(const std::string& path) {
+  requireProjectFile(path);
+  return Database(Connection::connect(path));
+}
+
+const std::string& Database::path() const {
+  static const std::string none;
+  return connection_ ? connection_->path : none;
+}
+
+void Database::createTable(const std::string& name, const std::vector<FieldDef>& fields) {
+  Connection& c = liveConnection(connection_);
+  requireUsableName("table", name, "");
+  std::string table = "table " + shown(name);
+  if (isReservedName(name)) {
+    fail(FaultKind::Database, "cannot create " + table +
+                                  ": names beginning with sqlite_ "
+                                  "are reserved for the database engine");
+  }
+  if (fields.empty()) fail(FaultKind::Database, "cannot create " + table + " without fields");
+  int limit = sqlite3_limit(c.db.get(), SQLITE_LIMIT_COLUMN, -1);
+  if (fields.size() > static_cast<size_t>(limit)) {
+    fail(FaultKind::Database, "cannot create " + table + " with " + std::to_string(fields.size()) +
+                                  " fields: a table holds at most " + std::to_string(limit));
+  }
+  std::unordered_set<std::string, NoCaseHash, NoCaseEqual> seen;
+  std::string columns;
+  for (const FieldDef& field : fields) {
+    requireUsableName("field", field.name, name);
+    if (!seen.insert(field.name).second) {
+      fail(FaultKind::Database,
+           "cannot create " + table + ": field " + shown(field.name) + " appears twice");
+    }
+    columns += (columns.empty() ? "" : ", ") + sqlName(field.name) +
+               (field.type == FieldType::Long ? " INTEGER" : " TEXT");
+  }
+  if (seen.contains("rowid") && seen.contains("_rowid_") && seen.contains("oid")) {
+    fail(FaultKind::Database, "cannot create " + table +
+                                  ": fields named rowid, _rowid_ and oid would hide its row order");
+  }
+  if (c.nameTaken(name)) {
+    fail(FaultKind::Database, table + " exists already in " + shown(c.path));
+  }
+  c.beforeWrite();
+  c.execute("CREATE TABLE " + sqlName(name) + " (" + columns + ")", "cannot create " + table);
+}
+
+void Database::deleteTable(const std::string& name) {
+  Connection& c = liveConnection(connection_);
+  std::optional<std::string> stored = c.storedTableName(name);
+  if (!stored) {
+    fail(FaultKind::Database,
+         "cannot delete table " + shown(name) + ": it does not exist in " + shown(c.path));
+  }
+  c.beforeWrite();
+  c.forget(*stored);
+  c.execute("DROP TABLE " + sqlName(*stored), "cannot delete table " + shown(*stored));
+}
+
+bool Database::hasTable(const std::string& name) const {
+  return liveConnection(connection_).storedTableName(name).has_value();
+}
+
+std::vector<std::string> Database::tableNames() const {
+  Connection& c = liveConnection(connection_);
+  std::string what = "cannot list the tables";
+  SqliteStatement statement =
+      c.prepare("SELECT name FROM sqlite_schema WHERE type='table' ORDER BY rowid", what, false);
+  std::vector<std::string> names;
+  int rc;
+  while ((rc = sqlite3_step(statement.get())) == SQLITE_ROW) {
+    std::string name = columnText(statement.get(), 0);
+    if (!isReservedName(name)) names.push_back(std::move(name));
+  }
+  if (rc != SQLITE_DONE) c.stepFault(statement.get(), what);
+  return names;
+}
+
+std::vector<FieldDef> Database::fields(const std::string& table) const {
+  return liveConnection(connection_).table(table)->fields;
+}
+
+Recordset Database::openTable(const std::string& name) {
+  Connection& c = liveConnection(connection_);
+  auto impl = std::make_unique<Recordset::Impl>();
+  impl->table = c.table(name);
+  impl->name = impl->table->name;
+  impl->connection = connection_;
+  return Recordset(std::move(impl));
+}
+
+void Database::close() {
+  if (connection_) connection_->close();
+}
+
+WriteBatch Database::beginBatch() {
+  Connection& c = liveConnection(connection_);
+  c.execute("BEGIN IMMEDIATE", "cannot begin writing to " + shown(c.path));
+  return WriteBatch(connection_);
+}
+
+WriteBatch::WriteBatch(std::shared_ptr<Connection> connection)
+    : connection_(std::move(connection)) {}
+
+WriteBatch::WriteBatch(WriteBatch&& other) noexcept = default;
+
+void WriteBatch::commit() {
+  if (!connection_) return;
+  std::shared_ptr<Connection> connection = std::move(connection_);
+  if (connection->isOpen()) {
+    connection->execute("COMMIT", "cannot write the batch to " + shown(connection->path));
+  }
+}
+
+WriteBatch::~WriteBatch() {
+  // A batch left by a Fault keeps what was written before it, as every update does.
+  try {
+    commit();
+  } catch (const Fault&) {
+  }
+}
+
+}  // namespace tri

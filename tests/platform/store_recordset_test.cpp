@@ -1,0 +1,325 @@
+// A recordset of the project store: moving over the rows, adding, editing and deleting,
+// and two recordsets of one table seeing each other's writes.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <optional>
+
+#include "platform/fault.h"
+#include "platform/store.h"
+#include "store_test_support.h"
+#include "support/temp_dir.h"
+
+namespace tri {
+namespace {
+
+class StoreRecordsetTest : public testing::Test {
+ protected:
+  StoreRecordsetTest() : db_(Database::create(dir_.file("p.mdb"))) {}
+
+  // A new table `name` with rows n = 1 .. rows, opened on its first row.
+  Recordset freshTable(const std::string& name, int rows) {
+    if (db_.hasTable(name)) db_.deleteTable(name);
+    db_.createTable(name, {{"n", FieldType::Long}, {"s", FieldType::Text}});
+    Recordset rs = db_.openTable(name);
+    for (int n = 1; n <= rows; ++n) append(rs, n);
+    return db_.openTable(name);
+  }
+
+  Recordset rowsUpTo(int rows) { return freshTable("t", rows); }
+
+  static void append(Recordset& rs, int n) {
+    rs.addNew();
+    rs.set("n", n);
+    rs.set("s", "row " + std::to_string(n));
+    rs.update();
+  }
+
+  static std::vector<int> walk(Recordset& rs) {
+    std::vector<int> seen;
+    if (rs.recordCount() == 0) return seen;
+    for (rs.moveFirst(); !rs.eof(); rs.moveNext()) seen.push_back(static_cast<int>(rs.number("n")));
+    return seen;
+  }
+
+  TempDir dir_;
+  Database db_;
+};
+
+using StoreNavigation = StoreRecordsetTest;
+using StoreEditing = StoreRecordsetTest;
+using StoreTwoRecordsets = StoreRecordsetTest;
+
+// Where a recordset stands: at bof, at eof, on a row (its n), or on a deleted row (0).
+struct Place {
+  bool bof;
+  bool eof;
+  std::optional<int> n;
+  bool operator==(const Place&) const = default;
+};
+
+Place placeOf(Recordset& rs) {
+  Place place{rs.bof(), rs.eof(), std::nullopt};
+  if (!place.bof && !place.eof) {
+    try {
+      place.n = static_cast<int>(rs.number("n"));
+    } catch (const Fault&) {
+      place.n = 0;
+    }
+  }
+  return place;
+}
+
+std::string describe(const Place& place) {
+  return "bof=" + std::to_string(place.bof) + " eof=" + std::to_string(place.eof) +
+         " n=" + (place.n ? std::to_string(*place.n) : "-");
+}
+
+TEST_F(StoreNavigation, AnEmptyTableHasNoCurrentRow) {
+  Recordset rs = rowsUpTo(0);
+  EXPECT_TRUE(rs.bof());
+  EXPECT_TRUE(rs.eof());
+  EXPECT_EQ(rs.recordCount(), 0);
+  rs.move(0);
+  for (auto action : std::initializer_list<void (*)(Recordset&)>{
+           [](Recordset& r) { r.moveNext(); }, [](Recordset& r) { r.movePrevious(); },
+           [](Recordset& r) { r.moveFirst(); }, [](Recordset& r) { r.moveLast(); },
+           [](Recordset& r) { r.move(1); }, [](Recordset& r) { r.number("n"); },
+           [](Recordset& r) { r.text("s"); }, [](Recordset& r) { r.edit(); },
+           [](Recordset& r) { r.remove(); }}) {
+    EXPECT_TRUE(faults([&] { action(rs); }, FaultKind::NoCurrentRecord, {"\"t\""}));
+  }
+}
+
+TEST_F(StoreNavigation, WalksBothWaysAndStopsAtEitherEnd) {
+  Recordset rs = rowsUpTo(3);
+  EXPECT_EQ(placeOf(rs), (Place{false, false, 1}));
+  rs.moveNext();
+  rs.moveNext();
+  EXPECT_EQ(placeOf(rs), (Place{false, false, 3}));
+  rs.moveNext();
+  EXPECT_EQ(placeOf(rs), (Place{false, true, std::nullopt}));
+  EXPECT_TRUE(faults([&] { rs.get("n"); }, FaultKind::NoCurrentRecord, {"\"t\""}));
+  EXPECT_TRUE(faults([&] { rs.moveNext(); }, FaultKind::NoCurrentRecord, {"\"t\""}));
+  rs.movePrevious();
+  EXPECT_EQ(placeOf(rs), (Place{false, false, 3}));
+  rs.moveFirst();
+  rs.movePrevious();
+  EXPECT_EQ(placeOf(rs), (Place{true, false, std::nullopt}));
+  EXPECT_TRUE(faults([&] { rs.movePrevious(); }, FaultKind::NoCurrentRecord, {"\"t\""}));
+  rs.moveNext();
+  EXPECT_EQ(placeOf(rs), (Place{false, false, 1}));
+
+  EXPECT_TRUE(faults([&] { rs.move(LONG_MAX); }, FaultKind::NoCurrentRecord, {"\"t\""}));
+  EXPECT_TRUE(rs.eof());
+  EXPECT_TRUE(faults([&] { rs.move(LONG_MIN); }, FaultKind::NoCurrentRecord, {"\"t\""}));
+  EXPECT_TRUE(rs.bof());
+}
+
+// Puts a recordset of rows 1 .. 5 at a start: 0 before the first row, 1 .. 5 on that row,
+// 6 after the last, 7 .. 9 on row 1, 3 or 5 just deleted.
+void placeAt(Recordset& rs, int start) {
+  rs.moveFirst();
+  if (start == 0) rs.movePrevious();
+  int row = start <= 6 ? start : 2 * (start - 7) + 1;
+  for (int i = 1; i < row; ++i) rs.moveNext();
+  if (start >= 7) rs.remove();
+}
+
+// The place a recordset ends at after an action, and whether the action faulted.
+template <typename Action>
+std::string outcome(Recordset& rs, Action action) {
+  bool faulted = false;
+  try {
+    action();
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.kind(), FaultKind::NoCurrentRecord) << fault.what();
+    faulted = true;
+  }
+  return describe(placeOf(rs)) + (faulted ? " faulted" : "");
+}
+
+TEST_F(StoreNavigation, MoveEndsWhereSingleStepsEnd) {
+  for (int start = 0; start <= 9; ++start) {
+    for (long rows = -7; rows <= 7; ++rows) {
+      Recordset jumper = freshTable("j", 5);
+      Recordset stepper = freshTable("s", 5);
+      placeAt(jumper, start);
+      placeAt(stepper, start);
+      std::string jumped = outcome(jumper, [&] { jumper.move(rows); });
+      std::string stepped = outcome(stepper, [&] {
+        for (long i = 0; i < rows; ++i) stepper.moveNext();
+        for (long i = 0; i > rows; --i) stepper.movePrevious();
+      });
+      EXPECT_EQ(jumped, stepped) << "start " << start << ", move " << rows;
+    }
+  }
+}
+
+TEST_F(StoreEditing, AnAddedRowLeavesTheCurrentRowWhereItWas) {
+  Recordset rs = rowsUpTo(3);
+  rs.moveNext();
+  rs.addNew();
+  rs.set("n", 4);
+  EXPECT_EQ(rs.number("n"), 4) << "the buffer is read while it is open";
+  EXPECT_TRUE(rs.isNull("s"));
+  rs.update();
+  EXPECT_EQ(placeOf(rs), (Place{false, false, 2}));
+  EXPECT_EQ(rs.recordCount(), 4);
+
+  rs.moveLast();
+  rs.moveNext();
+  append(rs, 5);
+  EXPECT_EQ(placeOf(rs), (Place{false, true, std::nullopt}));
+  rs.moveLast();
+  EXPECT_EQ(rs.number("n"), 5);
+
+  rs.moveFirst();
+  rs.movePrevious();
+  append(rs, 6);
+  EXPECT_EQ(placeOf(rs), (Place{true, false, std::nullopt}));
+  rs.moveNext();
+  EXPECT_EQ(rs.number("n"), 1);
+
+  Recordset empty = db_.openTable("t");
+  while (!empty.eof()) empty.remove(), empty.moveNext();
+  append(empty, 7);
+  EXPECT_TRUE(empty.eof());
+  empty.moveLast();
+  EXPECT_EQ(empty.number("n"), 7);
+}
+
+TEST_F(StoreEditing, EditWritesTheRowBackAndCancelDropsTheBuffer) {
+  Recordset rs = rowsUpTo(3);
+  EXPECT_TRUE(faults([&] { rs.set("s", "x"); }, FaultKind::Database,
+                     {"Update or CancelUpdate without AddNew or Edit", "\"s\""}));
+  EXPECT_TRUE(faults([&] { rs.update(); }, FaultKind::Database, {"without AddNew or Edit"}));
+  EXPECT_TRUE(faults([&] { rs.cancelUpdate(); }, FaultKind::Database, {"without AddNew"}));
+
+  rs.moveNext();
+  rs.edit();
+  EXPECT_EQ(rs.text("s"), "row 2");
+  rs.set("s", "changed");
+  rs.setNull("n");
+  EXPECT_TRUE(faults([&] { rs.number("n"); }, FaultKind::InvalidUseOfNull, {"\"n\"", "row 2"}));
+  rs.cancelUpdate();
+  EXPECT_EQ(rs.text("s"), "row 2");
+
+  rs.edit();
+  rs.set("s", "kept");
+  rs.moveNext();  // a move drops an unfinished edit
+  EXPECT_TRUE(faults([&] { rs.set("s", "x"); }, FaultKind::Database, {"without AddNew"}));
+
+  rs.movePrevious();
+  rs.edit();
+  rs.set("s", "stored");
+  rs.update();
+  EXPECT_EQ(rs.text("s"), "stored");
+  EXPECT_EQ(rs.number("n"), 2);
+  db_.close();
+
+  Database again = Database::open(dir_.file("p.mdb"));
+  Recordset reopened = again.openTable("t");
+  EXPECT_EQ(walk(reopened), (std::vector<int>{1, 2, 3}));
+  reopened.move(-2);
+  EXPECT_EQ(reopened.text("s"), "stored");
+}
+
+TEST_F(StoreEditing, ADeletedRowStaysCurrentUntilTheNextMove) {
+  Recordset rs = rowsUpTo(6);
+  rs.move(2);
+  rs.remove();
+  EXPECT_FALSE(rs.bof());
+  EXPECT_FALSE(rs.eof());
+  EXPECT_TRUE(faults([&] { rs.get("n"); }, FaultKind::Database, {"Record is deleted", "\"t\""}));
+  EXPECT_TRUE(faults([&] { rs.edit(); }, FaultKind::Database, {"Record is deleted"}));
+  rs.moveNext();
+  EXPECT_EQ(rs.number("n"), 4);
+  rs.remove();
+  rs.movePrevious();
+  EXPECT_EQ(rs.number("n"), 2);
+  rs.moveFirst();
+  rs.remove();
+  rs.movePrevious();
+  EXPECT_TRUE(rs.bof());
+  rs.moveLast();
+  rs.remove();
+  rs.moveNext();
+  EXPECT_TRUE(rs.eof());
+  EXPECT_EQ(walk(rs), (std::vector<int>{2, 5}));
+  rs.moveFirst();
+  rs.remove();
+  rs.moveLast();
+  EXPECT_EQ(rs.number("n"), 5);
+}
+
+TEST_F(StoreEditing, AppendedRowsComeAfterEveryRowLeftByDeletes) {
+  Recordset rs = rowsUpTo(5);
+  rs.move(1);
+  rs.remove();
+  rs.moveLast();
+  rs.remove();
+  append(rs, 6);
+  append(rs, 7);
+  EXPECT_EQ(walk(rs), (std::vector<int>{1, 3, 4, 6, 7}));
+  rs.moveLast();
+  rs.remove();
+  append(rs, 8);
+  EXPECT_EQ(walk(rs), (std::vector<int>{1, 3, 4, 6, 8}));
+  db_.close();
+
+  Database again = Database::open(dir_.file("p.mdb"));
+  Recordset reopened = again.openTable("t");
+  EXPECT_EQ(walk(reopened), (std::vector<int>{1, 3, 4, 6, 8}));
+  reopened.moveFirst();
+  while (!reopened.eof()) reopened.remove(), reopened.moveNext();
+  EXPECT_EQ(reopened.recordCount(), 0);
+  EXPECT_TRUE(reopened.bof() && reopened.eof());
+}
+
+TEST_F(StoreTwoRecordsets, EachFollowsTheRowsTheOtherAddsAndDeletes) {
+  Recordset a = rowsUpTo(3);
+  Recordset b = db_.openTable("t");
+  a.moveNext();
+  EXPECT_EQ(a.number("n"), 2);
+  append(b, 4);
+  EXPECT_EQ(a.recordCount(), 4);
+  EXPECT_EQ(a.number("n"), 2);
+  b.remove();  // row 1, before a's current row
+  EXPECT_EQ(a.recordCount(), 3);
+  EXPECT_EQ(a.number("n"), 2);
+  a.moveLast();
+  EXPECT_EQ(a.number("n"), 4);
+
+  a.moveFirst();
+  b.moveFirst();
+  b.remove();  // a's current row
+  EXPECT_TRUE(faults([&] { a.text("s"); }, FaultKind::Database, {"Record is deleted"}));
+  a.moveNext();
+  EXPECT_EQ(a.number("n"), 3);
+  a.moveNext();
+  a.moveNext();
+  EXPECT_TRUE(a.eof());
+  append(b, 5);
+  EXPECT_TRUE(a.eof());
+  a.moveLast();
+  EXPECT_EQ(a.number("n"), 5);
+}
+
+TEST_F(StoreTwoRecordsets, AnEditByOneIsReadByTheOther) {
+  Recordset a = rowsUpTo(2);
+  Recordset b = db_.openTable("t");
+  EXPECT_EQ(a.text("s"), "row 1");
+  b.edit();
+  b.set("s", "edited");
+  b.update();
+  EXPECT_EQ(a.text("s"), "edited");
+
+  a.edit();
+  b.remove();
+  a.set("s", "too late");
+  EXPECT_TRUE(faults([&] { a.update(); }, FaultKind::Database, {"Record is deleted"}));
+}
+
+}  // namespace
+}  // namespace tri
