@@ -80,19 +80,6 @@ void holdBandStart(Entry& e) {
   e.heldY = seen && corner ? e.candidateY : 0;
 }
 
-void appendVertexRow(Recordset& table, const Holes& h, int hole) {
-  table.moveLast();
-  table.addNew();
-  table.set("koordinat1", ondayaz(h.eks[hole]));
-  table.set("koordinat2", ondayaz(h.eye[hole]));
-  table.set("say", hole);
-  table.set("sondgir", ondayaz(h.songir[hole]));
-  table.set("cevhgir", ondayaz(h.cevgir[hole]));
-  table.set("cevhcik", ondayaz(h.cevcik[hole]));
-  table.set("sondcik", ondayaz(h.soncik[hole]));
-  table.update();
-}
-
 Color dotColor(int colorIndex) {
   switch (colorIndex) {
     case 1: return kRed;
@@ -130,6 +117,7 @@ void pick(State& s, Recordset& drawing, float x, float y) {
       e.kosey[3] = h.eye[hole];
       break;
   }
+  drawing.moveLast();
   appendVertexRow(drawing, h, hole);
   c.drawWidth = 5;
   c.pset(h.eks[hole], h.eye[hole], dotColor(e.colorIndex));

@@ -1,5 +1,7 @@
 #include "triangles/records.h"
 
+#include "store/ondayaz.h"
+
 namespace tri {
 
 int triangleCount(Recordset& table) {
@@ -26,6 +28,18 @@ TriangleCorners readTriangleCorners(Recordset& table, int t) {
     corners.y[k] = table.number("koordinat2") / 1000;
   }
   return corners;
+}
+
+void appendVertexRow(Recordset& table, const Holes& h, int hole) {
+  table.addNew();
+  table.set("koordinat1", ondayaz(h.eks[hole]));
+  table.set("koordinat2", ondayaz(h.eye[hole]));
+  table.set("say", hole);
+  table.set("sondgir", ondayaz(h.songir[hole]));
+  table.set("cevhgir", ondayaz(h.cevgir[hole]));
+  table.set("cevhcik", ondayaz(h.cevcik[hole]));
+  table.set("sondcik", ondayaz(h.soncik[hole]));
+  table.update();
 }
 
 }  // namespace tri

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "platform/store.h"
+#include "store/state.h"
 
 namespace tri {
 
@@ -23,5 +24,9 @@ struct TriangleCorners {
 
 // The three corners of triangle t, in metres.
 TriangleCorners readTriangleCorners(Recordset& table, int t);
+
+// Appends the vertex row of a hole: its coordinates and entry and exit values through
+// ondayaz, and its number.
+void appendVertexRow(Recordset& table, const Holes& holes, int hole);
 
 }  // namespace tri

@@ -10,6 +10,7 @@
 #include "store/ondayaz.h"
 #include "store/project_format.h"
 #include "triangles/entry.h"
+#include "triangles/records.h"
 #include "triangles/reserve_math.h"
 
 namespace tri {
@@ -131,21 +132,6 @@ void appendSummaryRow(Recordset& table, const State& s, const Summary& v, const 
   table.update();
 }
 
-void appendVertexRows(Recordset& table, const Holes& h, const CornerHoles& holes) {
-  for (int k = 1; k <= 3; ++k) {
-    const int hole = holes[k];
-    table.addNew();
-    table.set("koordinat1", ondayaz(h.eks[hole]));
-    table.set("koordinat2", ondayaz(h.eye[hole]));
-    table.set("say", hole);
-    table.set("sondgir", ondayaz(h.songir[hole]));
-    table.set("cevhgir", ondayaz(h.cevgir[hole]));
-    table.set("cevhcik", ondayaz(h.cevcik[hole]));
-    table.set("sondcik", ondayaz(h.soncik[hole]));
-    table.update();
-  }
-}
-
 // The corner means above a limit tenor, guarded against empty corners. The density sums
 // S3' and S4' are the run's: they go on adding up by corner position and are never
 // cleared, so earlier triangles weigh on a later triangle's limit density.
@@ -187,7 +173,7 @@ void appendToLimitTables(State& s, Database& db, const CornerLogs& logs,
     slot = nextLimitSlot(s, p, l, d, slot);
     const LimitTenor& limit = s.projects.limdeger.get(p, l, d, slot);
     Recordset table = db.openTable(limitTableName(limit.text, drawing));
-    appendVertexRows(table, s.holes, holes);
+    for (int k = 1; k <= 3; ++k) appendVertexRow(table, s.holes, holes[k]);
     const CornerMeans corners = limitCornerMeans(s, logs, lithology, limit.value);
     const TriangleMeans means = guardedTriangleMeans(corners);
     Summary v;
