@@ -28,6 +28,7 @@ struct CanvasOp {
   Color color = 0;
   int width = 1;
   bool filled = false;
+  Color fillColor = 0;  // the inside of a filled circle
   std::string text;
 
   // "line 1 2 3 4 color=255 width=1", "point 5 6 color=0 width=5", "text 1 2 \"A\" ..."

@@ -2,8 +2,12 @@
 // window, the picture file and the tests alike.
 #pragma once
 
+#include <QFont>
 #include <QImage>
+#include <QPainter>
+#include <QStaticText>
 #include <string>
+#include <unordered_map>
 
 #include "platform/canvas.h"
 
@@ -13,7 +17,8 @@ class ImageCanvas : public Canvas {
  public:
   ImageCanvas(int pixelWidth = 1000, int pixelHeight = 700, double dotsPerInch = 96);
 
-  const QImage& image() const { return image_; }
+  // The finished picture: drawing still in progress is completed first.
+  const QImage& image() const;
   // Writes the picture; the format follows the extension (.bmp, .png, .jpg).
   // Returns false when the file cannot be written.
   bool save(const std::string& path) const;
@@ -36,7 +41,20 @@ class ImageCanvas : public Canvas {
   Color pixelAt(int px, int py) const override;
 
  private:
+  bool readyToPaint();
+  void finishPainting() const;
+  void useFont(int pointSize) const;
+  const QStaticText& laidOut(const std::string& text);
+
   QImage image_;
+  // One painter stays open across drawing calls (opening one per call costs more than
+  // drawing a short line); it is ended before the picture is read or replaced.
+  mutable QPainter painter_;
+  mutable QFont font_;
+  mutable int fontPointSize_ = 0;
+  mutable double fontLineHeight_ = 0;
+  // Texts laid out in the current font: a repaint prints the same labels again.
+  mutable std::unordered_map<std::string, QStaticText> laidOutTexts_;
 };
 
 }  // namespace tri

@@ -1,19 +1,356 @@
-// Placeholder until the FreeXL reader lands.
+// Workbook cells: the FreeXL reader of .xls files and the in-memory sheet.
 #include "platform/sheet.h"
 
+#include <freexl.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstdint>
+#include <exception>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <thread>
+#include <vector>
+
 #include "platform/fault.h"
+#include "platform/vbtext.h"
 
 namespace tri {
 
-std::string Cell::valueText() const { return text; }
-
-std::unique_ptr<Sheet> openXlsSheet(const std::string& path) {
-  throw Fault(FaultKind::Workbook, "cannot read " + path);
+std::string Cell::valueText() const {
+  switch (kind) {
+    case Kind::Number:
+      return numberText(number);
+    case Kind::Text:
+      return text;
+    case Kind::Empty:
+      return {};
+  }
+  return {};
 }
 
-void GridSheet::setNumber(int, int, double) {}
-void GridSheet::setText(int, int, const std::string&) {}
-Cell GridSheet::cell(int, int) const { return {}; }
-Cell& GridSheet::slot(int, int) { return columns_.at(0).at(0); }
+namespace {
+
+std::string freexlReason(int code) {
+  switch (code) {
+    case FREEXL_FILE_NOT_FOUND:
+      return "the file does not exist or cannot be read";
+    case FREEXL_INSUFFICIENT_MEMORY:
+      return "not enough memory to read it";
+    case FREEXL_INVALID_CFBF_HEADER:
+      return "it is not an .xls workbook (no compound-file header)";
+    case FREEXL_CFBF_READ_ERROR:
+      return "the file is damaged or too short (read error)";
+    case FREEXL_CFBF_SEEK_ERROR:
+      return "the file is damaged or cut short (seek error)";
+    case FREEXL_CFBF_INVALID_SIGNATURE:
+      return "it is not an .xls workbook (unknown signature)";
+    case FREEXL_CFBF_INVALID_SECTOR_SIZE:
+      return "the file header is damaged (bad sector size)";
+    case FREEXL_CFBF_EMPTY_FAT_CHAIN:
+      return "the file header is damaged (empty sector chain)";
+    case FREEXL_CFBF_ILLEGAL_FAT_ENTRY:
+      return "the file's sector table is damaged";
+    case FREEXL_BIFF_INVALID_BOF:
+      return "the workbook records are damaged";
+    case FREEXL_BIFF_INVALID_SST:
+      return "the table of shared texts is damaged";
+    case FREEXL_BIFF_ILLEGAL_SST_INDEX:
+      return "a text cell refers to a missing shared text";
+    case FREEXL_BIFF_WORKBOOK_NOT_FOUND:
+      return "the file holds no workbook";
+    case FREEXL_BIFF_ILLEGAL_SHEET_INDEX:
+      return "the workbook has no such sheet";
+    case FREEXL_BIFF_UNSELECTED_SHEET:
+      return "no sheet is selected";
+    case FREEXL_INVALID_CHARACTER:
+      return "a text holds a character outside its code page";
+    case FREEXL_UNSUPPORTED_CHARSET:
+      return "the workbook's code page is not supported";
+    case FREEXL_ILLEGAL_CELL_ROW_COL:
+      return "a cell lies outside the sheet";
+    case FREEXL_ILLEGAL_RK_VALUE:
+      return "a number cell is damaged";
+    case FREEXL_INVALID_MINI_STREAM:
+      return "the file's small-data stream is damaged";
+    case FREEXL_CFBF_ILLEGAL_MINI_FAT_ENTRY:
+      return "the file's small-data sector table is damaged";
+    case FREEXL_CRAFTED_FILE:
+      return "the file is badly damaged";
+  }
+  return "the reader failed (code " + std::to_string(code) + ")";
+}
+
+[[noreturn]] void workbookFault(const std::string& path, const std::string& reason) {
+  throw Fault(FaultKind::Workbook, "cannot read the workbook \"" + path + "\": " + reason);
+}
+
+// Owns a FreeXL handle; FreeXL wants it closed even after a failed open.
+class XlsHandle {
+ public:
+  XlsHandle() = default;
+  ~XlsHandle() {
+    if (handle_) freexl_close(handle_);
+  }
+  XlsHandle(const XlsHandle&) = delete;
+  XlsHandle& operator=(const XlsHandle&) = delete;
+
+  const void* get() const { return handle_; }
+  const void** out() { return &handle_; }
+
+ private:
+  const void* handle_ = nullptr;
+};
+
+unsigned infoOf(const XlsHandle& xls, unsigned short what) {
+  unsigned info = FREEXL_UNKNOWN;
+  if (freexl_get_info(xls.get(), what, &info) != FREEXL_OK) return FREEXL_UNKNOWN;
+  return info;
+}
+
+Cell cellFrom(const FreeXL_CellValue& value) {
+  Cell cell;
+  switch (value.type) {
+    case FREEXL_CELL_INT:
+      cell.kind = Cell::Kind::Number;
+      cell.number = value.value.int_value;
+      break;
+    case FREEXL_CELL_DOUBLE:
+      cell.kind = Cell::Kind::Number;
+      cell.number = value.value.double_value;
+      break;
+    case FREEXL_CELL_TEXT:
+    case FREEXL_CELL_SST_TEXT:
+    case FREEXL_CELL_DATE:
+    case FREEXL_CELL_DATETIME:
+    case FREEXL_CELL_TIME:
+      cell.kind = Cell::Kind::Text;
+      if (value.value.text_value) cell.text = value.value.text_value;
+      break;
+    default:
+      break;
+  }
+  return cell;
+}
+
+// The compound-file container of an .xls workbook, read only as far as its directory. FreeXL
+// 1.0.6 trusts the name length of a directory entry and reads past the 64-byte name when that
+// length is damaged, so such a file is turned away before FreeXL sees it.
+class CompoundDirectory {
+ public:
+  explicit CompoundDirectory(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    try {
+      bytes_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    } catch (const std::exception&) {
+      bytes_.clear();  // a folder or an unreadable file: FreeXL says why
+    }
+  }
+
+  // False when the file is not a compound file at all; FreeXL then says why.
+  bool hasDamagedEntryName() {
+    static const unsigned char signature[] = {0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1};
+    if (bytes_.size() < kHeaderSize || !std::equal(signature, signature + 8, bytes_.begin()))
+      return false;
+    unsigned shift = u16(0x1E);
+    if (shift != 9 && shift != 12) return false;
+    sectorSize_ = size_t{1} << shift;
+    collectFatSectors();
+    size_t steps = bytes_.size() / sectorSize_ + 1;  // a looping chain ends here
+    for (uint32_t sector = u32(0x30); sector < kLastRegularSector && steps > 0; --steps) {
+      size_t start = sectorStart(sector);
+      if (start + sectorSize_ > bytes_.size()) return false;
+      for (size_t entry = start; entry < start + sectorSize_; entry += kEntrySize) {
+        if (u16(entry + kNameLengthOffset) > kMaxNameBytes) return true;
+      }
+      sector = fatEntry(sector);
+    }
+    return false;
+  }
+
+ private:
+  static constexpr size_t kHeaderSize = 512;
+  static constexpr size_t kEntrySize = 128;
+  static constexpr size_t kNameLengthOffset = 64;
+  static constexpr unsigned kMaxNameBytes = 64;
+  static constexpr uint32_t kLastRegularSector = 0xFFFFFFFA;
+  static constexpr uint32_t kEndOfChain = 0xFFFFFFFE;
+  static constexpr size_t kHeaderFatSlots = 109;
+
+  // The FAT sectors: 109 listed in the header, the rest in the chain of extra list sectors.
+  void collectFatSectors() {
+    fatSectors_.clear();
+    for (size_t slot = 0; slot < kHeaderFatSlots; ++slot) addFatSector(u32(0x4C + 4 * slot));
+    size_t slotsPerSector = sectorSize_ / 4 - 1;
+    size_t steps = bytes_.size() / sectorSize_ + 1;
+    for (uint32_t sector = u32(0x44); sector < kLastRegularSector && steps > 0; --steps) {
+      size_t start = sectorStart(sector);
+      if (start + sectorSize_ > bytes_.size()) return;
+      for (size_t slot = 0; slot < slotsPerSector; ++slot) addFatSector(u32(start + 4 * slot));
+      sector = u32(start + 4 * slotsPerSector);
+    }
+  }
+
+  void addFatSector(uint32_t sector) {
+    if (sector < kLastRegularSector) fatSectors_.push_back(sector);
+  }
+
+  uint32_t fatEntry(uint32_t sector) const {
+    size_t perSector = sectorSize_ / 4;
+    if (sector / perSector >= fatSectors_.size()) return kEndOfChain;
+    return u32(sectorStart(fatSectors_[sector / perSector]) + 4 * (sector % perSector));
+  }
+
+  size_t sectorStart(uint32_t sector) const { return (size_t{sector} + 1) * sectorSize_; }
+
+  // Little-endian values; bytes beyond the file read as all ones, which ends any chain.
+  uint32_t u32(size_t at) const {
+    if (at + 4 > bytes_.size()) return 0xFFFFFFFF;
+    return u16(at) | uint32_t{u16(at + 2)} << 16;
+  }
+  unsigned u16(size_t at) const {
+    if (at + 2 > bytes_.size()) return 0xFFFF;
+    return bytes_[at] | unsigned{bytes_[at + 1]} << 8;
+  }
+
+  std::vector<unsigned char> bytes_;
+  size_t sectorSize_ = kHeaderSize;
+  std::vector<uint32_t> fatSectors_;
+};
+
+// FreeXL 1.0.6 can crash or corrupt memory on some damaged workbooks (a single changed byte in
+// the workbook records is enough). A child process reads the whole first sheet first, so such a
+// file ends only the child; the program then reads the file itself.
+enum class TrialRead { Passed, Crashed, Hung };
+
+// In the child: FreeXL only, then _exit, so no handler of the parent runs twice.
+[[noreturn]] void readEverythingAndExit(const char* path) {
+  const void* handle = nullptr;
+  if (freexl_open(path, &handle) == FREEXL_OK &&
+      freexl_select_active_worksheet(handle, 0) == FREEXL_OK) {
+    unsigned rows = 0;
+    unsigned short columns = 0;
+    if (freexl_worksheet_dimensions(handle, &rows, &columns) == FREEXL_OK) {
+      FreeXL_CellValue value;
+      for (unsigned row = 0; row < rows; ++row) {
+        for (unsigned short column = 0; column < columns; ++column) {
+          freexl_get_cell_value(handle, row, column, &value);
+        }
+      }
+    }
+  }
+  if (handle) freexl_close(handle);
+  _exit(0);
+}
+
+TrialRead trialRead(const std::string& path) {
+  constexpr auto kPatience = std::chrono::seconds(60);
+  pid_t child = fork();
+  if (child < 0) return TrialRead::Passed;  // no child to spare: read in-process as before
+  if (child == 0) readEverythingAndExit(path.c_str());
+  auto deadline = std::chrono::steady_clock::now() + kPatience;
+  auto pause = std::chrono::microseconds(200);
+  int status = 0;
+  for (;;) {
+    pid_t done = waitpid(child, &status, WNOHANG);
+    if (done == child) break;
+    if (done < 0 && errno != EINTR) return TrialRead::Passed;
+    if (std::chrono::steady_clock::now() > deadline) {
+      kill(child, SIGKILL);
+      waitpid(child, &status, 0);
+      return TrialRead::Hung;
+    }
+    std::this_thread::sleep_for(pause);
+    pause = std::min<std::chrono::microseconds>(pause * 2, std::chrono::milliseconds(20));
+  }
+  return WIFEXITED(status) && WEXITSTATUS(status) == 0 ? TrialRead::Passed : TrialRead::Crashed;
+}
+
+class XlsSheet : public Sheet {
+ public:
+  explicit XlsSheet(const std::string& path) : path_(path) {
+    if (CompoundDirectory(path).hasDamagedEntryName()) {
+      workbookFault(path_, "the file's directory is damaged");
+    }
+    switch (trialRead(path)) {
+      case TrialRead::Crashed:
+        workbookFault(path_, "the file is badly damaged");
+      case TrialRead::Hung:
+        workbookFault(path_, "reading the file did not come to an end");
+      case TrialRead::Passed:
+        break;
+    }
+    check(freexl_open(path.c_str(), xls_.out()));
+    if (!xls_.get()) workbookFault(path_, "the file holds no workbook");
+    if (infoOf(xls_, FREEXL_BIFF_PASSWORD) == FREEXL_BIFF_OBFUSCATED) {
+      workbookFault(path_, "the workbook is password-protected");
+    }
+    if (infoOf(xls_, FREEXL_BIFF_SHEET_COUNT) == 0)
+      workbookFault(path_, "the workbook has no sheet");
+    check(freexl_select_active_worksheet(xls_.get(), 0));
+    check(freexl_worksheet_dimensions(xls_.get(), &rows_, &columns_));
+  }
+
+  Cell cell(int row, int column) const override {
+    if (row < 1 || column < 1) return {};
+    if (static_cast<unsigned>(row) > rows_ || static_cast<unsigned>(column) > columns_) return {};
+    FreeXL_CellValue value{};
+    check(freexl_get_cell_value(xls_.get(), row - 1, column - 1, &value));
+    return cellFrom(value);
+  }
+
+ private:
+  void check(int code) const {
+    if (code != FREEXL_OK) workbookFault(path_, freexlReason(code));
+  }
+
+  std::string path_;
+  XlsHandle xls_;
+  unsigned rows_ = 0;
+  unsigned short columns_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<Sheet> openXlsSheet(const std::string& path) {
+  return std::make_unique<XlsSheet>(path);
+}
+
+void GridSheet::setNumber(int row, int column, double value) {
+  Cell& target = slot(row, column);
+  target.kind = Cell::Kind::Number;
+  target.number = value;
+  target.text.clear();
+}
+
+void GridSheet::setText(int row, int column, const std::string& text) {
+  Cell& target = slot(row, column);
+  target.kind = Cell::Kind::Text;
+  target.number = 0;
+  target.text = text;
+}
+
+Cell GridSheet::cell(int row, int column) const {
+  if (row < 1 || column < 1 || static_cast<size_t>(column) > columns_.size()) return {};
+  const std::vector<Cell>& cells = columns_[column - 1];
+  if (static_cast<size_t>(row) > cells.size()) return {};
+  return cells[row - 1];
+}
+
+Cell& GridSheet::slot(int row, int column) {
+  if (row < 1 || column < 1) {
+    throw Fault(FaultKind::SubscriptOutOfRange,
+                "no cell at row " + std::to_string(row) + ", column " + std::to_string(column));
+  }
+  if (static_cast<size_t>(column) > columns_.size()) columns_.resize(column);
+  std::vector<Cell>& cells = columns_[column - 1];
+  if (static_cast<size_t>(row) > cells.size()) cells.resize(row);
+  return cells[row - 1];
+}
 
 }  // namespace tri

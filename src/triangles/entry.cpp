@@ -3,7 +3,6 @@
 #include "platform/store.h"
 #include "platform/vbtext.h"
 #include "store/hole_lists.h"
-#include "store/ondayaz.h"
 #include "store/project_format.h"
 #include "triangles/commands.h"
 #include "triangles/records.h"
