@@ -1,0 +1,292 @@
+#include "platform/image_canvas.h"
+
+#include <QFontMetricsF>
+#include <QPen>
+#include <QPoint>
+#include <QPolygonF>
+#include <QRect>
+#include <QString>
+#include <QTransform>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tri {
+
+namespace {
+
+QColor toQColor(Color color) { return QColor(redOf(color), greenOf(color), blueOf(color)); }
+
+// The pixel a coordinate falls on, as a whole number: pixel i covers i - 0.5 up to i + 0.5.
+double snap(double p) { return std::floor(p + 0.5); }
+
+bool finite(double a, double b) { return std::isfinite(a) && std::isfinite(b); }
+
+// The picture with a margin wide enough for a pen of `penWidth`: shapes reaching beyond
+// it are cut there, so that no coordinate handed to the painter is absurdly large.
+QRectF withMargin(const QImage& image, int penWidth) {
+  const double margin = penWidth + 2.0;
+  return QRectF(-margin, -margin, image.width() + 2 * margin, image.height() + 2 * margin);
+}
+
+enum Outside { kLeft = 1, kRight = 2, kAbove = 4, kBelow = 8 };
+
+int outsideOf(const QPointF& p, const QRectF& box) {
+  return (p.x() < box.left() ? kLeft : 0) | (p.x() > box.right() ? kRight : 0) |
+         (p.y() < box.top() ? kAbove : 0) | (p.y() > box.bottom() ? kBelow : 0);
+}
+
+// Moves `p` along the line from `anchor` onto the first edge of `box` it lies beyond. The
+// new coordinate is measured from the anchor, the other end: far ends lose their small
+// digits, and an end already brought near the picture keeps the result exact.
+QPointF ontoEdge(const QPointF& p, const QPointF& anchor, int outside, const QRectF& box) {
+  const QPointF delta = p - anchor;
+  if (outside & (kLeft | kRight)) {
+    const double x = outside & kLeft ? box.left() : box.right();
+    return QPointF(x, anchor.y() + delta.y() * ((x - anchor.x()) / delta.x()));
+  }
+  const double y = outside & kAbove ? box.top() : box.bottom();
+  return QPointF(anchor.x() + delta.x() * ((y - anchor.y()) / delta.y()), y);
+}
+
+// Cuts the segment a-b to `box` (Cohen-Sutherland); false when none of it lies inside.
+bool clipSegment(QPointF& a, QPointF& b, const QRectF& box) {
+  // Each step clears one side of one end; rounding may at worst leave an end a hair outside.
+  for (int step = 0; step < 8; ++step) {
+    const int outsideA = outsideOf(a, box);
+    const int outsideB = outsideOf(b, box);
+    if ((outsideA | outsideB) == 0) return true;
+    if (outsideA & outsideB) return false;
+    if (outsideA) {
+      a = ontoEdge(a, b, outsideA, box);
+    } else {
+      b = ontoEdge(b, a, outsideB, box);
+    }
+  }
+  return true;
+}
+
+// True when every pixel of the image lies within `radius` of `centre`.
+bool withinRadius(const QImage& image, const QPointF& centre, double radius) {
+  const double farX = std::max(std::abs(centre.x() + 1), std::abs(centre.x() - image.width()));
+  const double farY = std::max(std::abs(centre.y() + 1), std::abs(centre.y() - image.height()));
+  return std::hypot(farX, farY) < radius;
+}
+
+// A one-pixel line from a to b, both ends included, straight into the picture's pixels: a
+// plan of a thousand triangles is mostly such lines, and this is far cheaper than the
+// painter's path for them.
+void plotThinLine(QImage& image, QPoint a, QPoint b, QRgb rgb) {
+  const int dx = std::abs(b.x() - a.x()), sx = a.x() < b.x() ? 1 : -1;
+  const int dy = -std::abs(b.y() - a.y()), sy = a.y() < b.y() ? 1 : -1;
+  const int width = image.width(), height = image.height();
+  uchar* bits = image.bits();
+  const qsizetype stride = image.bytesPerLine();
+  int err = dx + dy;
+  for (int x = a.x(), y = a.y();;) {
+    if (x >= 0 && x < width && y >= 0 && y < height) {
+      reinterpret_cast<QRgb*>(bits + y * stride)[x] = rgb;
+    }
+    if (x == b.x() && y == b.y()) break;
+    const int e2 = 2 * err;
+    if (e2 >= dy) err += dy, x += sx;
+    if (e2 <= dx) err += dx, y += sy;
+  }
+}
+
+QPen solidPen(Color color, int width) {
+  return QPen(toQColor(color), std::max(1, width), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+}
+
+}  // namespace
+
+ImageCanvas::ImageCanvas(int pixelWidth, int pixelHeight, double dotsPerInch)
+    : Canvas(pixelWidth, pixelHeight, dotsPerInch) {
+  paintResize(this->pixelWidth(), this->pixelHeight());
+  paintClear(backColor);
+}
+
+const QImage& ImageCanvas::image() const {
+  finishPainting();
+  return image_;
+}
+
+bool ImageCanvas::save(const std::string& path) const {
+  finishPainting();
+  return image_.save(QString::fromStdString(path));
+}
+
+bool ImageCanvas::readyToPaint() {
+  if (painter_.isActive()) return true;
+  if (image_.isNull() || !painter_.begin(&image_)) return false;
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+  painter_.setRenderHint(QPainter::TextAntialiasing, false);
+  return true;
+}
+
+void ImageCanvas::finishPainting() const {
+  if (painter_.isActive()) painter_.end();
+}
+
+void ImageCanvas::paintResize(int pixelWidth, int pixelHeight) {
+  finishPainting();
+  image_ = QImage(pixelWidth, pixelHeight, QImage::Format_RGB32);
+  const int dotsPerMeter = qRound(dotsPerInch() / 0.0254);
+  image_.setDotsPerMeterX(dotsPerMeter);
+  image_.setDotsPerMeterY(dotsPerMeter);
+}
+
+void ImageCanvas::paintClear(Color background) {
+  finishPainting();
+  image_.fill(toQColor(background));
+}
+
+void ImageCanvas::paintLine(double px1, double py1, double px2, double py2, Color color,
+                            int width) {
+  if (!finite(px1, py1) || !finite(px2, py2) || !readyToPaint()) return;
+  QPointF from(snap(px1), snap(py1));
+  QPointF to(snap(px2), snap(py2));
+  if (!clipSegment(from, to, withMargin(image_, width))) return;
+  if (width <= 1) {
+    plotThinLine(image_, from.toPoint(), to.toPoint(), toQColor(color).rgb());
+    return;
+  }
+  painter_.setPen(solidPen(color, width));
+  painter_.drawLine(from, to);
+}
+
+void ImageCanvas::paintBox(double px1, double py1, double px2, double py2, Color color, bool filled,
+                           int width) {
+  if (!finite(px1, py1) || !finite(px2, py2) || !readyToPaint()) return;
+  // Cutting an upright rectangle to the margin leaves its visible part as it was.
+  const QRectF area = withMargin(image_, width);
+  const auto inside = [&area](double px, double py) {
+    return QPointF(std::clamp(snap(px), area.left(), area.right()),
+                   std::clamp(snap(py), area.top(), area.bottom()));
+  };
+  const QRectF corners = QRectF(inside(px1, py1), inside(px2, py2)).normalized();
+  if (filled) {
+    // Both corner pixels belong to the box, as they do to its outline.
+    painter_.fillRect(QRect(corners.topLeft().toPoint(), corners.bottomRight().toPoint()),
+                      toQColor(color));
+    return;
+  }
+  painter_.setPen(solidPen(color, width));
+  painter_.setBrush(Qt::NoBrush);
+  painter_.drawRect(corners);
+}
+
+void ImageCanvas::paintPoint(double px, double py, Color color, int width) {
+  if (!finite(px, py) || !readyToPaint()) return;
+  width = std::max(1, width);
+  const double cx = snap(px);
+  const double cy = snap(py);
+  if (!withMargin(image_, width).contains(cx, cy)) return;
+  // A round dot `width` pixels across. An even width has its middle between two pixels,
+  // half a pixel up and to the left of (cx, cy), as the painter centres an even pen.
+  const QColor dotColor = toQColor(color);
+  const int first = -(width / 2);
+  const int last = first + width - 1;
+  const double middle = width % 2 == 0 ? -0.5 : 0.0;
+  const double radiusSquared = width * width / 4.0;
+  for (int dy = first; dy <= last; ++dy) {
+    const double rowOffset = dy - middle;
+    const double halfSpan = std::sqrt(std::max(0.0, radiusSquared - rowOffset * rowOffset));
+    const int left = std::max(first, static_cast<int>(std::ceil(middle - halfSpan)));
+    const int right = std::min(last, static_cast<int>(std::floor(middle + halfSpan)));
+    if (left > right) continue;
+    painter_.fillRect(
+        QRect(static_cast<int>(cx) + left, static_cast<int>(cy) + dy, right - left + 1, 1),
+        dotColor);
+  }
+}
+
+void ImageCanvas::paintEllipse(double cx, double cy, double rx, double ry, Color color, int width,
+                               bool filled, Color fill) {
+  if (!finite(cx, cy) || !finite(rx, ry) || !readyToPaint()) return;
+  const QPointF centre(snap(cx), snap(cy));
+  const QRectF bounds(centre.x() - rx, centre.y() - ry, 2 * rx, 2 * ry);
+  if (!bounds.intersects(withMargin(image_, width))) return;
+  // A picture wholly inside the outline is all fill; the painter gets a huge one wrong.
+  if (withinRadius(image_, centre, std::min(rx, ry) - width)) {
+    if (filled) painter_.fillRect(image_.rect(), toQColor(fill));
+    return;
+  }
+  painter_.setPen(solidPen(color, width));
+  if (filled) {
+    painter_.setBrush(toQColor(fill));
+  } else {
+    painter_.setBrush(Qt::NoBrush);
+  }
+  painter_.drawEllipse(bounds);
+}
+
+void ImageCanvas::paintText(double px, double py, const std::string& text, Color color,
+                            int pointSize) {
+  if (!finite(px, py) || text.empty() || !readyToPaint()) return;
+  const double left = snap(px);
+  const double top = snap(py);
+  // Text runs right and down from its corner; anything starting beyond the picture or
+  // absurdly far before it shows nothing.
+  constexpr double kFarAway = 1e6;
+  if (left >= image_.width() || top >= image_.height() || left < -kFarAway || top < -kFarAway) {
+    return;
+  }
+  useFont(pointSize);
+  painter_.setFont(font_);
+  painter_.setPen(toQColor(color));
+  painter_.drawStaticText(QPointF(left, top), laidOut(text));
+}
+
+const QStaticText& ImageCanvas::laidOut(const std::string& text) {
+  // Bounded by starting afresh: labels of one plan number far fewer than this.
+  constexpr size_t kMostTexts = 4096;
+  auto found = laidOutTexts_.find(text);
+  if (found != laidOutTexts_.end()) return found->second;
+  if (laidOutTexts_.size() >= kMostTexts) laidOutTexts_.clear();
+  QStaticText laid(QString::fromStdString(text));
+  laid.setTextFormat(Qt::PlainText);
+  laid.prepare(QTransform(), font_);
+  return laidOutTexts_.emplace(text, std::move(laid)).first->second;
+}
+
+void ImageCanvas::paintPolygon(const int* xy, int points, Color color) {
+  if (points < 3 || !readyToPaint()) return;
+  QPolygonF polygon;
+  for (int i = 0; i < points; ++i) polygon << QPointF(xy[2 * i], xy[2 * i + 1]);
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(toQColor(color));
+  painter_.drawPolygon(polygon, Qt::WindingFill);
+}
+
+double ImageCanvas::textPixelWidth(const std::string& text, int pointSize) const {
+  useFont(pointSize);
+  return QFontMetricsF(font_).horizontalAdvance(QString::fromStdString(text));
+}
+
+double ImageCanvas::textPixelHeight(int pointSize) const {
+  useFont(pointSize);
+  return fontLineHeight_;
+}
+
+Color ImageCanvas::pixelAt(int px, int py) const {
+  if (!image_.valid(px, py)) return -1;
+  finishPainting();
+  const QRgb pixel = image_.pixel(px, py);
+  return rgb(qRed(pixel), qGreen(pixel), qBlue(pixel));
+}
+
+void ImageCanvas::useFont(int pointSize) const {
+  pointSize = std::max(1, pointSize);
+  if (pointSize == fontPointSize_) return;
+  // Whole pixels from the points and the dots per inch, as a screen font is chosen.
+  font_ = QFont();
+  font_.setPixelSize(std::max(1, qRound(pointSize * dotsPerInch() / 72.0)));
+  font_.setStyleStrategy(QFont::NoAntialias);
+  const QFontMetricsF metrics(font_);
+  fontLineHeight_ = std::max(metrics.height(), metrics.lineSpacing());
+  fontPointSize_ = pointSize;
+  laidOutTexts_.clear();
+}
+
+}  // namespace tri
