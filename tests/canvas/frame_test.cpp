@@ -193,3 +193,35 @@ TEST(BasePlan, HolesGetPointsAndNamesOnlyWhenShown) {
 
 }  // namespace
 }  // namespace tri
+
+namespace tri {
+namespace {
+
+TEST(FrameLimit, RestoresTheFrameToTheHolesAndRedrawsTheViewsThatAreOn) {
+  Session s;
+  s.createProject(fixture("cluster.xls"));
+  s.state.frame.ebxk = 5000;
+  s.state.frame.kaydirx = 12;
+  s.state.frame.olcekgirildi = true;
+  s.run("Mnlimit_Click");
+  const Frame& f = s.state.frame;
+  EXPECT_EQ(f.ekxk, 500);
+  EXPECT_EQ(f.ebxk, 650);
+  EXPECT_EQ(f.ekyk, 800);
+  EXPECT_EQ(f.ebyk, 950);
+  EXPECT_EQ(f.haritagen, 150);
+  EXPECT_EQ(f.kaydirx, 0);
+  EXPECT_FALSE(f.olcekgirildi);
+  EXPECT_EQ(s.state.holes.sondsay, 14);
+  // A view that is on runs again, and fits the restored frame to the canvas.
+  s.state.flags.modcizim = true;
+  s.canvas.clearLog();
+  s.run("Mnlimit_Click");
+  ASSERT_FALSE(s.canvas.log().empty());
+  EXPECT_EQ(s.canvas.log().front().kind, CanvasOp::Kind::Clear);
+  EXPECT_EQ(f.ebxk, 650);
+  EXPECT_LT(f.ebyk - f.ekyk, 150) << "cropped to the wider canvas";
+}
+
+}  // namespace
+}  // namespace tri
