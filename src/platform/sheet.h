@@ -18,8 +18,8 @@ struct Cell {
   // The cell's value as text: the general number text of a number, the text of a text,
   // nothing for an empty cell.
   std::string valueText() const;
-  // A cell counts as empty when its value text has length 0.
-  bool isEmpty() const { return valueText().empty(); }
+  // A cell counts as empty when its value text has length 0 (a number's never has).
+  bool isEmpty() const { return kind == Kind::Empty || (kind == Kind::Text && text.empty()); }
 };
 
 class Sheet {

@@ -1,5 +1,6 @@
 #include "platform/vbtext.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cfenv>
 #include <cmath>
@@ -10,12 +11,60 @@
 
 namespace tri {
 
+namespace {
+
+// The digits and the decimal exponent of x: x = 0.d1d2d3... x 10^(exponent + 1), without the
+// sign, in the shortest form that reads back as x.
+struct Digits {
+  std::string digits;
+  int exponent = 0;
+};
+
+Digits shortestDigits(double x) {
+  char buffer[40];
+  const auto [end, error] =
+      std::to_chars(buffer, buffer + sizeof buffer, std::abs(x), std::chars_format::scientific);
+  Digits d;
+  const char* e = std::find(buffer, end, 'e');
+  for (const char* c = buffer; c < e; ++c) {
+    if (*c != '.') d.digits += *c;
+  }
+  std::from_chars(e + 1 + (e[1] == '+'), end, d.exponent);
+  while (d.digits.size() > 1 && d.digits.back() == '0') d.digits.pop_back();
+  return d;
+}
+
+// The general form of 15 significant digits from its digits: exponent form below 1E-4 and
+// from 1E+15, at least two exponent digits.
+std::string generalForm(bool negative, const Digits& d) {
+  std::string text = negative ? "-" : "";
+  const int n = static_cast<int>(d.digits.size());
+  if (d.exponent < -4 || d.exponent >= 15) {
+    text += d.digits[0];
+    if (n > 1) text += "." + d.digits.substr(1);
+    const int magnitude = std::abs(d.exponent);
+    text += d.exponent < 0 ? "E-" : "E+";
+    if (magnitude < 10) text += '0';
+    return text + std::to_string(magnitude);
+  }
+  if (d.exponent < 0) return text + "0." + std::string(-d.exponent - 1, '0') + d.digits;
+  if (n <= d.exponent + 1) return text + d.digits + std::string(d.exponent + 1 - n, '0');
+  return text + d.digits.substr(0, d.exponent + 1) + "." + d.digits.substr(d.exponent + 1);
+}
+
+}  // namespace
+
 std::string numberText(double x) {
   if (x == 0) return "0";
   if (std::isnan(x)) return "NaN";
   if (std::isinf(x)) return x > 0 ? "Inf" : "-Inf";
-  // The general form at 15 digits (as printf's %.15G) is the runtime's rule: exponent form
-  // below 1E-4 and from 1E+15, trailing zeros dropped, at least two exponent digits.
+  // Up to 15 significant digits, the runtime's rule (printf's %.15G). A normal number whose
+  // shortest exact digits are 15 or fewer has those digits (its spacing is finer than 15
+  // digits'); the others are rounded, on the slower path.
+  if (std::isnormal(x)) {
+    const Digits shortest = shortestDigits(x);
+    if (shortest.digits.size() <= 15) return generalForm(x < 0, shortest);
+  }
   char buffer[40];
   const auto [end, error] =
       std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, 15);
