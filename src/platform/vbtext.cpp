@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cfenv>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -11,45 +10,45 @@
 
 namespace tri {
 
-namespace {
-
-// The digits and the decimal exponent of x: x = 0.d1d2d3... x 10^(exponent + 1), without the
-// sign, in the shortest form that reads back as x.
-struct Digits {
-  std::string digits;
-  int exponent = 0;
-};
-
-Digits shortestDigits(double x) {
+bool fifteenDigitsOf(double x, DecimalDigits& out) {
+  if (!std::isnormal(x)) return false;
   char buffer[40];
   const auto [end, error] =
       std::to_chars(buffer, buffer + sizeof buffer, std::abs(x), std::chars_format::scientific);
-  Digits d;
   const char* e = std::find(buffer, end, 'e');
+  out.count = 0;
   for (const char* c = buffer; c < e; ++c) {
-    if (*c != '.') d.digits += *c;
+    if (*c == '.') continue;
+    // The spacing of a normal double is finer than 15 digits', so 15 shortest digits are
+    // also its 15-digit rounding; more need the rounding itself.
+    if (out.count == 15) return false;
+    out.digits[out.count++] = *c;
   }
-  std::from_chars(e + 1 + (e[1] == '+'), end, d.exponent);
-  while (d.digits.size() > 1 && d.digits.back() == '0') d.digits.pop_back();
-  return d;
+  std::from_chars(e + 1 + (e[1] == '+'), end, out.exponent);
+  while (out.count > 1 && out.digits[out.count - 1] == '0') --out.count;
+  return true;
 }
+
+namespace {
 
 // The general form of 15 significant digits from its digits: exponent form below 1E-4 and
 // from 1E+15, at least two exponent digits.
-std::string generalForm(bool negative, const Digits& d) {
+std::string generalForm(bool negative, const DecimalDigits& d) {
   std::string text = negative ? "-" : "";
-  const int n = static_cast<int>(d.digits.size());
+  const std::string_view digits(d.digits, d.count);
+  const int n = d.count;
   if (d.exponent < -4 || d.exponent >= 15) {
-    text += d.digits[0];
-    if (n > 1) text += "." + d.digits.substr(1);
+    text += digits[0];
+    if (n > 1) (text += '.') += digits.substr(1);
     const int magnitude = std::abs(d.exponent);
     text += d.exponent < 0 ? "E-" : "E+";
     if (magnitude < 10) text += '0';
     return text + std::to_string(magnitude);
   }
-  if (d.exponent < 0) return text + "0." + std::string(-d.exponent - 1, '0') + d.digits;
-  if (n <= d.exponent + 1) return text + d.digits + std::string(d.exponent + 1 - n, '0');
-  return text + d.digits.substr(0, d.exponent + 1) + "." + d.digits.substr(d.exponent + 1);
+  if (d.exponent < 0) return (text + "0." + std::string(-d.exponent - 1, '0')) += digits;
+  if (n <= d.exponent + 1) return (text += digits) + std::string(d.exponent + 1 - n, '0');
+  ((text += digits.substr(0, d.exponent + 1)) += '.') += digits.substr(d.exponent + 1);
+  return text;
 }
 
 }  // namespace
@@ -58,13 +57,9 @@ std::string numberText(double x) {
   if (x == 0) return "0";
   if (std::isnan(x)) return "NaN";
   if (std::isinf(x)) return x > 0 ? "Inf" : "-Inf";
-  // Up to 15 significant digits, the runtime's rule (printf's %.15G). A normal number whose
-  // shortest exact digits are 15 or fewer has those digits (its spacing is finer than 15
-  // digits'); the others are rounded, on the slower path.
-  if (std::isnormal(x)) {
-    const Digits shortest = shortestDigits(x);
-    if (shortest.digits.size() <= 15) return generalForm(x < 0, shortest);
-  }
+  // Up to 15 significant digits, the runtime's rule (printf's %.15G).
+  DecimalDigits digits;
+  if (fifteenDigitsOf(x, digits)) return generalForm(x < 0, digits);
   char buffer[40];
   const auto [end, error] =
       std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, 15);
@@ -127,23 +122,27 @@ double toNumber(std::string_view text) {
   return value;
 }
 
+namespace {
+
+// The nearest whole number, an exact half to the even one, whatever the FPU's rounding mode.
+double nearestWholeHalfEven(double x) {
+  const double away = std::round(x);
+  return std::abs(away - x) == 0.5 ? 2 * std::round(x / 2) : away;
+}
+
+}  // namespace
+
 double roundHalfEven(double x, int decimals) {
   if (!std::isfinite(x)) return x;
+  if (decimals == 0) return nearestWholeHalfEven(x);
   double scale = std::pow(10.0, decimals);
   double scaled = x * scale;
   if (!std::isfinite(scaled)) return x;
-  int previous = std::fegetround();
-  std::fesetround(FE_TONEAREST);
-  double rounded = std::nearbyint(scaled);
-  std::fesetround(previous);
-  return rounded / scale;
+  return nearestWholeHalfEven(scaled) / scale;
 }
 
 long wholeIndex(double x) {
-  int previous = std::fegetround();
-  std::fesetround(FE_TONEAREST);
-  double rounded = std::nearbyint(x);
-  std::fesetround(previous);
+  const double rounded = nearestWholeHalfEven(x);
   if (!(rounded >= std::numeric_limits<int>::min() && rounded <= std::numeric_limits<int>::max())) {
     throw Fault(FaultKind::Overflow, numberText(x) + " does not fit a whole number");
   }

@@ -12,6 +12,16 @@ namespace tri {
 // exponent form ("1E-05", "1.5E+20") below 1E-4 and from 1E+15 on. -0 reads "0".
 std::string numberText(double x);
 
+// The significant digits of |x| as its general text shows them, x = d1.d2d3... x 10^exponent,
+// without trailing zeros; false (and nothing promised) for the numbers whose text needs the
+// slower exact rounding: zero, subnormals, non-finite values and those of over 15 digits.
+struct DecimalDigits {
+  char digits[15];
+  int count = 0;
+  int exponent = 0;
+};
+bool fifteenDigitsOf(double x, DecimalDigits& out);
+
 // Strict conversion: optional blanks, an optional sign, digits with at most one '.', and an
 // optional exponent. Anything else, the empty text included, is a "Type mismatch" Fault
 // naming the text. A value beyond the range of a double is an "Overflow" Fault.

@@ -1,5 +1,8 @@
 #include "store/ondayaz.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "platform/vbtext.h"
@@ -19,6 +22,27 @@ double ondayazText(std::string_view text) {
   return toNumber(whole + decimals);
 }
 
-double ondayaz(double x) { return ondayazText(numberText(x)); }
+namespace {
+
+// ondayaz of a number whose general text is plain decimals: its digits up to the third
+// decimal, read as a whole number, without making the text.
+std::optional<double> ondayazOfPlainDigits(double x) {
+  DecimalDigits d;
+  if (!fifteenDigitsOf(x, d) || d.exponent < -4 || d.exponent >= 15) return std::nullopt;
+  int64_t thousandths = 0;
+  for (int power = std::max(d.exponent, 0); power >= -3; --power) {
+    const int at = d.exponent - power;
+    thousandths = thousandths * 10 + (at >= 0 && at < d.count ? d.digits[at] - '0' : 0);
+  }
+  const double magnitude = static_cast<double>(thousandths);
+  return x < 0 ? -magnitude : magnitude;
+}
+
+}  // namespace
+
+double ondayaz(double x) {
+  if (const auto fast = ondayazOfPlainDigits(x)) return *fast;
+  return ondayazText(numberText(x));
+}
 
 }  // namespace tri

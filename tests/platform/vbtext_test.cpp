@@ -1,6 +1,7 @@
 // The number text and conversion rules that stored values and labels depend on.
 #include <gtest/gtest.h>
 
+#include <cfenv>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -64,6 +65,19 @@ TEST(Rounding, HalfGoesToTheEvenNeighbour) {
   EXPECT_EQ(roundHalfEven(0.375, 2), 0.38);
   EXPECT_EQ(numberText(roundHalfEven(1.8339, 5)), "1.8339");
   EXPECT_EQ(numberText(roundHalfEven(1000.004, 2)), "1000");
+  EXPECT_EQ(roundHalfEven(0.49999999999999994, 0), 0);
+  EXPECT_EQ(roundHalfEven(-1.5, 0), -2);
+  EXPECT_EQ(roundHalfEven(4503599627370497.0, 0), 4503599627370497.0);
+}
+
+TEST(Rounding, HoldsWhateverTheRoundingModeOfTheProcessor) {
+  const int previous = std::fegetround();
+  std::fesetround(FE_UPWARD);
+  const double down = roundHalfEven(2.5, 0);
+  const long index = wholeIndex(4.5);
+  std::fesetround(previous);
+  EXPECT_EQ(down, 2);
+  EXPECT_EQ(index, 4);
 }
 
 TEST(Rounding, WholeIndexRoundsHalfToEvenWithinThirtyTwoBits) {

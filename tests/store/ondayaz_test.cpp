@@ -1,7 +1,12 @@
 // Fixed thousandths through the number's text: truncated, never rounded.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdint>
+#include <vector>
+
 #include "platform/fault.h"
+#include "platform/vbtext.h"
 #include "store/ondayaz.h"
 
 namespace tri {
@@ -39,6 +44,26 @@ TEST(Ondayaz, ExponentTextIsNotTreatedSpecially) {
   EXPECT_THROW(ondayaz(1.5e20), Fault);
   // "1E-05" has no separator and becomes "1E-05000", a number too small to matter.
   EXPECT_EQ(ondayaz(0.00001), 0);
+}
+
+// ondayaz skips making the text for plain decimal numbers; it must give what the text gives.
+TEST(Ondayaz, AgreesWithItsTextForEveryKindOfNumber) {
+  std::vector<double> values = {0.5,    0.0005, 0.00049, 0.001, -0.0001, 0.12345, 99999999999.999,
+                                1e14,   -1e14,  0.1 + 0.2, 123456789012.345, 5e-324, -7.25};
+  uint64_t seed = 2463534242ull;
+  auto next = [&] { return seed ^= seed << 13, seed ^= seed >> 7, seed ^= seed << 17; };
+  for (int i = 0; i < 20000; ++i) {
+    const double thousandths =
+        static_cast<double>(static_cast<int64_t>(next() % 4294967296ull) - 2147483648ll);
+    values.push_back(thousandths / 1000);
+    values.push_back(thousandths / 7);
+    values.push_back(std::ldexp(thousandths, -static_cast<int>(next() % 60)));
+  }
+  for (double x : values) {
+    const double expected = ondayazText(numberText(x));
+    ASSERT_EQ(ondayaz(x), expected) << "for " << numberText(x);
+    ASSERT_EQ(std::signbit(ondayaz(x)), std::signbit(expected)) << "for " << numberText(x);
+  }
 }
 
 }  // namespace
