@@ -69,30 +69,37 @@ bool canvasShrankSinceResize(const State& s) {
          s.canvas.pixelHeight() < s.layout.lastCanvasHeight;
 }
 
+// Moves the x edges apart by w (olceky - olcekx), half on each side: a widening when the y
+// scale is the greater, a crop otherwise. The formula mixes centimetres and metres per
+// centimetre as the plan has always done.
+void stretchX(Frame& f, double w) {
+  const double d = w * (f.olceky - f.olcekx) / 2;
+  f.ebxk += d;
+  f.ekxk -= d;
+}
+
+// The same for the y edges, by h (olcekx - olceky).
+void stretchY(Frame& f, double h) {
+  const double d = h * (f.olcekx - f.olceky) / 2;
+  f.ebyk += d;
+  f.ekyk -= d;
+}
+
 // Widens the direction with the smaller scale so that the whole frame stays visible.
-// The formula mixes centimetres and metres per centimetre as the plan has always done.
 void widenToCanvas(Frame& f, double w, double h) {
   if (f.olceky > f.olcekx) {
-    double d = w * (f.olceky - f.olcekx) / 2;
-    f.ebxk += d;
-    f.ekxk -= d;
+    stretchX(f, w);
   } else if (f.olcekx > f.olceky) {
-    double d = h * (f.olcekx - f.olceky) / 2;
-    f.ebyk += d;
-    f.ekyk -= d;
+    stretchY(f, h);
   }
 }
 
 // Crops the direction with the greater scale so that the frame fills the canvas.
 void cropToCanvas(Frame& f, double w, double h) {
   if (f.olcekx > f.olceky) {
-    double d = w * (f.olceky - f.olcekx) / 2;
-    f.ebxk += d;
-    f.ekxk -= d;
+    stretchX(f, w);
   } else if (f.olceky > f.olcekx) {
-    double d = h * (f.olcekx - f.olceky) / 2;
-    f.ebyk += d;
-    f.ekyk -= d;
+    stretchY(f, h);
   }
 }
 
