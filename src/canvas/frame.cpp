@@ -164,7 +164,9 @@ void Mnlimit_Click(State& s) {
   s.frame.haritayuk = s.frame.ebyk - s.frame.ekyk;
   layoutAfterLoad(s);
   setCanvasScale(s);
-  replayFlags(s);
+  // One of the commands that run the whole replay: the old picture goes even when no
+  // view is on.
+  replayAll(s);
 }
 
 }  // namespace tri

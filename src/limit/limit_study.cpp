@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -48,8 +49,8 @@ std::optional<std::string> askLimit(State& s) {
 std::vector<StoredTriangle> readTriangles(Recordset& drawing) {
   drawing.moveLast();
   const int count = static_cast<int>(drawing.number("ucgensay"));
-  std::vector<StoredTriangle> triangles(count + 1);
   if (count > kMaxStudyTriangles) throwSubscript("limit study triangles", {count});
+  std::vector<StoredTriangle> triangles(std::max(count, 0) + 1);
   drawing.moveFirst();
   for (int t = 1; t <= count; ++t) {
     drawing.moveNext();
@@ -77,12 +78,13 @@ Bounded<std::vector<Layer>> readAllLogs(State& s, Database& db) {
   Holes& h = s.holes;
   h.sondsay = countHoles(log, HoleListEnd::ZeroXOrPointName);
   log.moveFirst();
+  StoredLogReader reader(log);
   for (int i = 1; i <= h.sondsay; ++i) {
     h.eks[i] = log.number("eks") / 1000;
     h.eye[i] = log.number("eye") / 1000;
     h.isim[i] = log.text("isim");
     std::vector<Layer>& layers = logs[i];
-    for (const StoredLayer& layer : readStoredLog(log)) {
+    for (const StoredLayer& layer : reader.layersOfCurrentRow()) {
       layers.push_back({layer.lit, layer.ten / 1000, layer.yog / 1000, layer.uz / 1000});
     }
     log.moveNext();

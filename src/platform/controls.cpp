@@ -5,6 +5,7 @@
 namespace tri {
 
 void Combo::clear() {
+  designText_.clear();
   items_.clear();
   listIndex_ = -1;
 }
@@ -21,7 +22,7 @@ void Combo::setListIndex(int index) {
   if (onClick) onClick();
 }
 
-std::string Combo::text() const { return listIndex_ < 0 ? std::string() : items_[listIndex_]; }
+std::string Combo::text() const { return listIndex_ < 0 ? designText_ : items_[listIndex_]; }
 
 const std::string& Combo::item(int index) const {
   if (index < 0 || index >= listCount()) {

@@ -14,7 +14,9 @@ namespace tri {
 // A drop-down list. Setting the list index runs its click procedure, as a click would.
 class Combo {
  public:
-  explicit Combo(std::string name) : name_(std::move(name)) {}
+  // The text shown before any entry is chosen, until the list is first cleared.
+  Combo(std::string name, std::string designText)
+      : name_(std::move(name)), designText_(std::move(designText)) {}
 
   const std::string& name() const { return name_; }
   void clear();
@@ -23,7 +25,7 @@ class Combo {
   int listIndex() const { return listIndex_; }
   // An index outside -1 .. listCount() - 1 is an "Invalid property value" Fault.
   void setListIndex(int index);
-  // The text of the selected entry; empty when none is selected.
+  // The text of the selected entry; when none is selected, the design text or nothing.
   std::string text() const;
   const std::string& item(int index) const;
   const std::vector<std::string>& items() const { return items_; }
@@ -32,6 +34,7 @@ class Combo {
 
  private:
   std::string name_;
+  std::string designText_;
   std::vector<std::string> items_;
   int listIndex_ = -1;
 };
@@ -52,10 +55,10 @@ class Controls {
  public:
   Controls();
 
-  Combo combo1{"Combo1"};  // limit tenor
-  Combo combo2{"Combo2"};  // drawing
-  Combo combo4{"Combo4"};  // lithology
-  Combo combo5{"Combo5"};  // project
+  Combo combo1{"Combo1", "Limit Tenör"};  // limit tenor
+  Combo combo2{"Combo2", "Çizimler"};     // drawing
+  Combo combo4{"Combo4", "Litotloji"};    // lithology
+  Combo combo5{"Combo5", "Proje"};        // project
 
   // Label1 .. Label13. Setting Label1 tells the window to show progress.
   const std::string& label(int number) const;

@@ -131,6 +131,7 @@ struct Recordset::Impl {
   sqlite3_stmt* currentRow();
   sqlite3_stmt* positionOnCurrentRow();
   int column(const std::string& field) const;
+  void requireField(int column) const;
   FieldType typeOf(int column) const { return table->fields[column].type; }
   std::string where(int column) const;
   std::string rowLabel() const;
@@ -321,6 +322,13 @@ int Recordset::Impl::column(const std::string& field) const {
   return lastColumn = found->second;
 }
 
+void Recordset::Impl::requireField(int column) const {
+  if (column < 0 || column >= static_cast<int>(table->fields.size())) {
+    fail(FaultKind::Database, "Item not found in this collection: table " + shown(name) +
+                                  " has no field number " + std::to_string(column));
+  }
+}
+
 std::string Recordset::Impl::where(int column) const {
   return "field " + shown(table->fields[column].name) + " of table " + shown(name);
 }
@@ -498,9 +506,17 @@ Value Recordset::get(const std::string& field) const {
 
 bool Recordset::isNull(const std::string& field) const { return get(field).isNull(); }
 
+int Recordset::fieldIndex(const std::string& field) const {
+  return liveRows(impl_).column(field);
+}
+
 double Recordset::number(const std::string& field) const {
+  return number(liveRows(impl_).column(field));
+}
+
+double Recordset::number(int column) const {
   Impl& r = liveRows(impl_);
-  int column = r.column(field);
+  r.requireField(column);
   if (r.editing == Editing::None) {
     const int at = r.table->resultColumn(column);
     sqlite3_value* value = sqlite3_column_value(r.currentRow(), at);
@@ -512,8 +528,12 @@ double Recordset::number(const std::string& field) const {
 }
 
 std::string Recordset::text(const std::string& field) const {
+  return text(liveRows(impl_).column(field));
+}
+
+std::string Recordset::text(int column) const {
   Impl& r = liveRows(impl_);
-  int column = r.column(field);
+  r.requireField(column);
   if (r.editing == Editing::None) {
     const int at = r.table->resultColumn(column);
     sqlite3_value* value = sqlite3_column_value(r.currentRow(), at);

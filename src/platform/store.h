@@ -75,6 +75,12 @@ class Recordset {
   double number(const std::string& field) const;
   // A text: Null reads as the empty text; a number reads as its general text.
   std::string text(const std::string& field) const;
+  // The position of a field in the table, for walks that read the same fields of many
+  // rows: number() and text() by position skip finding the name. An unknown name is the
+  // same Fault as reading it.
+  int fieldIndex(const std::string& field) const;
+  double number(int fieldIndex) const;
+  std::string text(int fieldIndex) const;
 
   // Editing. addNew() starts a new row, edit() the current one; set() writes into the
   // buffer; update() stores it. After update() of a new row the current row is the one

@@ -20,17 +20,30 @@ int countHoles(Recordset& rs, HoleListEnd end) {
   return n - 1;
 }
 
-std::vector<StoredLayer> readStoredLog(const Recordset& rs, bool withFifth) {
+const StoredLogReader::SlotFields& StoredLogReader::slot(int k) {
+  while (static_cast<int>(slots_.size()) < k) {
+    const int n = static_cast<int>(slots_.size()) + 1;
+    slots_.push_back({rs_.fieldIndex(layerField(LayerField::Lit, n)),
+                      rs_.fieldIndex(layerField(LayerField::Ten, n)),
+                      rs_.fieldIndex(layerField(LayerField::Yog, n)),
+                      rs_.fieldIndex(layerField(LayerField::Uz, n)),
+                      rs_.fieldIndex(layerField(LayerField::Dya, n))});
+  }
+  return slots_[static_cast<size_t>(k - 1)];
+}
+
+std::vector<StoredLayer> StoredLogReader::layersOfCurrentRow(bool withFifth) {
   std::vector<StoredLayer> layers;
   for (int k = 1; k <= kMaxLayers; ++k) {
-    const double tenor = rs.number(layerField(LayerField::Ten, k));
+    const SlotFields& fields = slot(k);
+    const double tenor = rs_.number(fields.ten);
     if (tenor == 0) break;
     StoredLayer layer;
     layer.ten = tenor;
-    layer.yog = rs.number(layerField(LayerField::Yog, k));
-    layer.uz = rs.number(layerField(LayerField::Uz, k));
-    layer.lit = rs.text(layerField(LayerField::Lit, k));
-    if (withFifth) layer.dya = rs.number(layerField(LayerField::Dya, k));
+    layer.yog = rs_.number(fields.yog);
+    layer.uz = rs_.number(fields.uz);
+    layer.lit = rs_.text(fields.lit);
+    if (withFifth) layer.dya = rs_.number(fields.dya);
     layers.push_back(std::move(layer));
   }
   return layers;

@@ -34,9 +34,23 @@ struct StoredLayer {
   double dya = 0;
 };
 
-// The layers of the hole on the current row, up to the first slot whose tenor is 0 (at
-// most 999); the fifth quantity only when asked for.
-std::vector<StoredLayer> readStoredLog(const Recordset& rs, bool withFifth = false);
+// Reads the stored logs of kor or log, row after row of one recordset: the layers of the
+// hole on the current row, up to the first slot whose tenor is 0 (at most 999); the fifth
+// quantity only when asked for. The slots' fields are found once, as first needed.
+class StoredLogReader {
+ public:
+  explicit StoredLogReader(const Recordset& rs) : rs_(rs) {}
+  std::vector<StoredLayer> layersOfCurrentRow(bool withFifth = false);
+
+ private:
+  struct SlotFields {
+    int lit, ten, yog, uz, dya;
+  };
+  const SlotFields& slot(int k);
+
+  const Recordset& rs_;
+  std::vector<SlotFields> slots_;  // slot k at k - 1
+};
 
 // Sets sondsay and reads eks and eye (in metres) and isim of every hole; entries past the
 // last hole are cleared.

@@ -1,5 +1,6 @@
 #include "canvas/replay.h"
 #include "store/commands.h"
+#include "store/project_commands.h"
 
 namespace tri {
 
@@ -8,6 +9,7 @@ void Form_Load(State& s) {
   s.frame.gridadim = 1;
   s.flags.ilkmod = true;
   s.ui.hide("HScroll1");
+  enableProjectMenuItems(s, false);
 }
 
 void Form_Resize(State& s, int canvasWidth, int canvasHeight) {

@@ -9,9 +9,24 @@
 
 namespace tri {
 
+namespace {
+
+// The number at the start of a text, as far as it reads as one; 0 when none does. An
+// exponent text cut by the separator rule ("15E-") so gives its digits, a wrong result
+// rather than a stop.
+double leadingNumber(const std::string& text) {
+  for (size_t length = text.size(); length > 0; --length) {
+    const std::string_view prefix(text.data(), length);
+    if (isNumberText(prefix)) return toNumber(prefix);
+  }
+  return 0;
+}
+
+}  // namespace
+
 double ondayazText(std::string_view text) {
   size_t separator = text.find_last_of(",.");
-  if (separator == std::string_view::npos) return toNumber(std::string(text) + "000");
+  if (separator == std::string_view::npos) return leadingNumber(std::string(text) + "000");
   std::string whole(text.substr(0, separator));
   std::string decimals(text.substr(separator + 1));
   if (decimals.size() >= 3) {
@@ -19,7 +34,7 @@ double ondayazText(std::string_view text) {
   } else {
     decimals.append(3 - decimals.size(), '0');
   }
-  return toNumber(whole + decimals);
+  return leadingNumber(whole + decimals);
 }
 
 namespace {

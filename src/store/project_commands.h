@@ -6,8 +6,8 @@
 
 namespace tri {
 
-// Enables the menu items that need a project.
-void enableProjectMenuItems(State& s);
+// Enables (or, before any project, disables) the menu items that need a project.
+void enableProjectMenuItems(State& s, bool on);
 
 // Adds the project of a chosen file to the run: its name is the file name without its
 // last four characters.

@@ -244,7 +244,7 @@ void checkNewProjectArea(State& s) {
 }  // namespace
 
 void Mnprolus_Click(State& s) {
-  enableProjectMenuItems(s);
+  enableProjectMenuItems(s, true);
   removeMarkers(s);
   const std::optional<FileChoice> workbookFile = askWorkbook(s);
   if (!workbookFile) return;

@@ -11,10 +11,10 @@
 
 namespace tri {
 
-void enableProjectMenuItems(State& s) {
+void enableProjectMenuItems(State& s, bool on) {
   for (const char* item : {"Mnkaydir", "Mnolcekg", "Mntoprez", "MNolcek", "Mnorten", "Mnhorten",
                            "Mnkortyog", "Mnaortyog"}) {
-    s.ui.enable(item);
+    s.ui.enable(item, on);
   }
 }
 
@@ -81,12 +81,13 @@ void loadHoleLogs(State& s, Database& db) {
   h.lit.clear();
 
   log.moveFirst();
+  StoredLogReader logs(log);
   for (int i = 1; i <= h.sondsay; ++i) {
     h.eks[i] = log.number("eks") / 1000;
     h.eye[i] = log.number("eye") / 1000;
     h.isim[i] = log.text("isim");
     int k = 0;
-    for (const StoredLayer& layer : readStoredLog(log, true)) {
+    for (const StoredLayer& layer : logs.layersOfCurrentRow(true)) {
       ++k;
       h.ten(i, k) = layer.ten;
       h.yog(i, k) = layer.yog;
@@ -101,7 +102,7 @@ void loadHoleLogs(State& s, Database& db) {
 }  // namespace
 
 void Mnprojeac_Click(State& s) {
-  enableProjectMenuItems(s);
+  enableProjectMenuItems(s, true);
   removeMarkers(s);
   const std::optional<FileChoice> file = askProjectFile(s);
   if (!file) return;

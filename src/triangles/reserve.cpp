@@ -23,10 +23,11 @@ using CornerLogs = std::array<std::vector<Layer>, 4>;
 CornerLogs readCornerLogs(Database& db, const CornerHoles& holes) {
   CornerLogs logs;
   Recordset log = db.openTable(kLogTable);
+  StoredLogReader reader(log);
   for (int k = 1; k <= 3; ++k) {
     log.moveFirst();
     log.move(holes[k] - 1);
-    for (const StoredLayer& layer : readStoredLog(log)) {
+    for (const StoredLayer& layer : reader.layersOfCurrentRow()) {
       logs[k].push_back({layer.lit, layer.ten / 1000, layer.yog / 1000, layer.uz / 1000});
     }
   }
@@ -168,8 +169,9 @@ void appendToLimitTables(State& s, Database& db, const CornerLogs& logs,
   const int d = s.drawing();
   const std::string lithology = s.ui.combo4.text();
   const std::string drawing = s.ui.combo2.text();
-  long slot = 1;
-  for (int q = 1; q <= s.projects.limsay.get(p, l, d); ++q, ++slot) {
+  // The slot number itself skips the freed slots, so a drawing with a freed slot misses its
+  // last limits here, as its list does.
+  for (long slot = 1; slot <= s.projects.limsay.get(p, l, d); ++slot) {
     slot = nextLimitSlot(s, p, l, d, slot);
     const LimitTenor& limit = s.projects.limdeger.get(p, l, d, slot);
     Recordset table = db.openTable(limitTableName(limit.text, drawing));

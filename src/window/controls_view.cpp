@@ -23,6 +23,7 @@ void reflectCombo(const Combo& combo, QComboBox* box) {
     for (const std::string& item : combo.items()) box->addItem(text(item));
   }
   box->setCurrentIndex(combo.listIndex());
+  box->setPlaceholderText(combo.listIndex() < 0 ? text(combo.text()) : QString());
 }
 
 void reflectMenu(const Controls& ui, const MenuActions& menu) {

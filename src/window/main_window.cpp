@@ -104,11 +104,12 @@ QWidget* MainWindow::buildCanvasArea(QWidget* parent) {
   auto* area = new QWidget(parent);
   auto* layout = new QHBoxLayout(area);
   layout->setContentsMargins(0, 0, 0, 0);
+  const ProcedureRunner run = [this](const std::string& name) { runProcedure(name); };
+  // The print column at the left edge, the preview page to its right, then the canvas.
+  layout->addWidget(buildPrintColumn(widgets_, area, run));
+  layout->addWidget(buildPreviewPage(widgets_, area, run), 0, Qt::AlignTop);
   widgets_.picture1 = addPanel(widgets_, "Picture1", new CanvasView(canvas_, area));
   layout->addWidget(widgets_.picture1, 1);
-  layout->addWidget(buildPreviewPage(widgets_, area), 0, Qt::AlignTop);
-  layout->addWidget(
-      buildPrintColumn(widgets_, area, [this](const std::string& name) { runProcedure(name); }));
   return area;
 }
 

@@ -65,19 +65,24 @@ QWidget* buildPrintColumn(ControlWidgets& widgets, QWidget* parent, const Proced
   layout->addWidget(paperFrame(widgets, column));
   layout->addWidget(printingFrame(widgets, column));
   layout->addWidget(button(widgets, "Command1", "Print", column, run));
-  layout->addWidget(button(widgets, "Command2", "Preview", column, run));
   layout->addStretch();
   return column;
 }
 
-QWidget* buildPreviewPage(ControlWidgets& widgets, QWidget* parent) {
-  auto* page = addPanel(widgets, "Picture2", new QWidget(parent));
+QWidget* buildPreviewPage(ControlWidgets& widgets, QWidget* parent, const ProcedureRunner& run) {
+  auto* column = new QWidget(parent);
+  auto* layout = new QVBoxLayout(column);
+  layout->setContentsMargins(0, 0, 0, 0);
+  auto* page = addPanel(widgets, "Picture2", new QWidget(column));
+  layout->addWidget(page);
+  layout->addWidget(button(widgets, "Command2", "Preview", column, run));
+  layout->addStretch();
   page->setFixedSize(210, 297);
   page->setAutoFillBackground(true);
   QPalette palette = page->palette();
   palette.setColor(QPalette::Window, Qt::white);
   page->setPalette(palette);
-  return page;
+  return column;
 }
 
 }  // namespace tri

@@ -13,11 +13,11 @@ namespace tri {
 // The fixed captions of the panels' labels, by label number.
 const std::vector<std::pair<int, const char*>>& printPanelCaptions();
 
-// The column of Combo3, Frame1, Frame2, Command1 and Command2, with its widgets
-// registered. A button's click calls `run` with "<button name>_Click".
+// The column of Combo3, Frame1, Frame2 and Command1, with its widgets registered. A
+// button's click calls `run` with "<button name>_Click".
 QWidget* buildPrintColumn(ControlWidgets& widgets, QWidget* parent, const ProcedureRunner& run);
 
-// Picture2: the preview page, 210 by 297 like the paper.
-QWidget* buildPreviewPage(ControlWidgets& widgets, QWidget* parent);
+// Picture2, the preview page, 210 by 297 like the paper, with Command2 under it.
+QWidget* buildPreviewPage(ControlWidgets& widgets, QWidget* parent, const ProcedureRunner& run);
 
 }  // namespace tri

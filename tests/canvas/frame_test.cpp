@@ -173,7 +173,11 @@ TEST(FrameLimit, RestoresTheFrameToTheHolesAndRedrawsTheViewsThatAreOn) {
   s.state.frame.ebxk = 5000;
   s.state.frame.kaydirx = 12;
   s.state.frame.olcekgirildi = true;
+  s.canvas.clearLog();
   s.run("Mnlimit_Click");
+  // No view is on, and still the old picture is cleared.
+  ASSERT_FALSE(s.canvas.log().empty());
+  EXPECT_EQ(s.canvas.log().front().kind, CanvasOp::Kind::Clear);
   const Frame& f = s.state.frame;
   EXPECT_EQ(f.ekxk, 500);
   EXPECT_EQ(f.ebxk, 650);

@@ -47,6 +47,12 @@ TEST(Capacity, StartUpDefaults) {
   EXPECT_FALSE(s.flags.modcizim);
   EXPECT_FALSE(s.frame.gridgoster);
   EXPECT_FALSE(s.ui.visible("HScroll1"));
+  // The selectors show their design titles; the map commands wait for a project.
+  EXPECT_EQ(s.ui.combo5.text(), "Proje");
+  EXPECT_EQ(s.ui.combo4.text(), "Litotloji");
+  EXPECT_EQ(s.ui.combo1.text(), "Limit Tenör");
+  EXPECT_FALSE(s.ui.enabled("Mnkaydir"));
+  EXPECT_FALSE(s.ui.enabled("Mnaortyog"));
   // The first resize, when the window shows, clears it again.
   Form_Resize(s, 800, 600);
   EXPECT_FALSE(s.flags.ilkmod);

@@ -121,8 +121,10 @@ TEST(LimitPass, FreedSlotsAreSkippedAfterTheProjectIsOpenedAgain) {
   again.click(150, 100);
   again.click(100, 140);
   EXPECT_EQ(readTable(s.path, "Kuzey").rows.size(), before + 4);
+  // Slots 2 and 3 are in use but counted as two: slot 1 is skipped to 2, and the pass
+  // ends before slot 3.
   EXPECT_EQ(readTable(s.path, "2Kuzey").rows.size(), 5u);
-  EXPECT_EQ(readTable(s.path, "3Kuzey").rows.size(), 5u);
+  EXPECT_EQ(readTable(s.path, "3Kuzey").rows.size(), 1u);
 }
 
 }  // namespace
