@@ -6,8 +6,8 @@
 #include "canvas/replay.h"
 #include "platform/store.h"
 #include "platform/vbtext.h"
-#include "store/hole_lists.h"
 #include "store/commands.h"
+#include "store/hole_lists.h"
 #include "store/project_format.h"
 
 namespace tri {

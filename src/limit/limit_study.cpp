@@ -3,12 +3,12 @@
 #include <vector>
 
 #include "canvas/replay.h"
+#include "limit/commands.h"
 #include "platform/store.h"
 #include "platform/vbtext.h"
 #include "store/hole_lists.h"
 #include "store/ondayaz.h"
 #include "store/project_format.h"
-#include "limit/commands.h"
 #include "triangles/reserve_math.h"
 
 namespace tri {

@@ -14,9 +14,9 @@ void Combo::addItem(const std::string& text) { items_.push_back(text); }
 
 void Combo::setListIndex(int index) {
   if (index < -1 || index >= listCount()) {
-    throw Fault(FaultKind::InvalidPropertyValue,
-                name_ + ".ListIndex = " + std::to_string(index) + " with " +
-                    std::to_string(listCount()) + " entries");
+    throw Fault(FaultKind::InvalidPropertyValue, name_ + ".ListIndex = " + std::to_string(index) +
+                                                     " with " + std::to_string(listCount()) +
+                                                     " entries");
   }
   listIndex_ = index;
   if (onClick) onClick();
@@ -26,9 +26,9 @@ std::string Combo::text() const { return listIndex_ < 0 ? designText_ : items_[l
 
 const std::string& Combo::item(int index) const {
   if (index < 0 || index >= listCount()) {
-    throw Fault(FaultKind::InvalidPropertyValue,
-                name_ + ".List(" + std::to_string(index) + ") with " +
-                    std::to_string(listCount()) + " entries");
+    throw Fault(FaultKind::InvalidPropertyValue, name_ + ".List(" + std::to_string(index) +
+                                                     ") with " + std::to_string(listCount()) +
+                                                     " entries");
   }
   return items_[index];
 }

@@ -10,9 +10,11 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
+#include <cstdio>
 #include <exception>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -27,6 +29,7 @@ std::string Cell::valueText() const {
     case Kind::Number:
       return numberText(number);
     case Kind::Text:
+    case Kind::Date:
       return text;
     case Kind::Empty:
       return {};
@@ -113,6 +116,37 @@ unsigned infoOf(const XlsHandle& xls, unsigned short what) {
   return info;
 }
 
+// Days from 1 January 1970 to a date of the proleptic Gregorian calendar.
+long daysFromCivil(long year, unsigned month, unsigned day) {
+  year -= month <= 2;
+  const long era = (year >= 0 ? year : year - 399) / 400;
+  const unsigned yearOfEra = static_cast<unsigned>(year - era * 400);
+  const unsigned dayOfYear = (153 * (month > 2 ? month - 3 : month + 9) + 2) / 5 + day - 1;
+  const unsigned dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
+  return era * 146097 + static_cast<long>(dayOfEra) - 719468;
+}
+
+// The day number of the text FreeXL gives a date, time or date-time cell: "YYYY-MM-DD",
+// "HH:MM:SS" or both, apart by a blank.
+std::optional<double> dateSerial(const std::string& text) {
+  int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0, used = 0;
+  double days = 0;
+  const char* rest = text.c_str();
+  if (std::sscanf(rest, "%d-%d-%d%n", &year, &month, &day, &used) == 3) {
+    if (month < 1 || month > 12 || day < 1 || day > 31) return std::nullopt;
+    days = static_cast<double>(
+        daysFromCivil(year, static_cast<unsigned>(month), static_cast<unsigned>(day)) -
+        daysFromCivil(1899, 12, 30));
+    rest += used;
+    while (*rest == ' ') ++rest;
+  }
+  if (*rest == '\0') return rest == text.c_str() ? std::nullopt : std::optional<double>(days);
+  if (std::sscanf(rest, "%d:%d:%d%n", &hour, &minute, &second, &used) != 3 || rest[used] != '\0') {
+    return std::nullopt;
+  }
+  return days + (hour * 3600 + minute * 60 + second) / 86400.0;
+}
+
 Cell cellFrom(const FreeXL_CellValue& value) {
   Cell cell;
   switch (value.type) {
@@ -126,11 +160,19 @@ Cell cellFrom(const FreeXL_CellValue& value) {
       break;
     case FREEXL_CELL_TEXT:
     case FREEXL_CELL_SST_TEXT:
+      cell.kind = Cell::Kind::Text;
+      if (value.value.text_value) cell.text = value.value.text_value;
+      break;
     case FREEXL_CELL_DATE:
     case FREEXL_CELL_DATETIME:
     case FREEXL_CELL_TIME:
-      cell.kind = Cell::Kind::Text;
       if (value.value.text_value) cell.text = value.value.text_value;
+      if (const auto serial = dateSerial(cell.text)) {
+        cell.kind = Cell::Kind::Date;
+        cell.number = *serial;
+      } else {
+        cell.kind = Cell::Kind::Text;
+      }
       break;
     default:
       break;

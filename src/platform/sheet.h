@@ -10,13 +10,16 @@
 namespace tri {
 
 struct Cell {
-  enum class Kind { Empty, Number, Text };
+  // A date, a time or both is a number of days since 30 December 1899 shown as its text:
+  // it reads as that number where a number is wanted and as that text where a text is.
+  enum class Kind { Empty, Number, Text, Date };
   Kind kind = Kind::Empty;
   double number = 0;
   std::string text;
 
-  // The cell's value as text: the general number text of a number, the text of a text,
-  // nothing for an empty cell.
+  bool holdsNumber() const { return kind == Kind::Number || kind == Kind::Date; }
+  // The cell's value as text: the general number text of a number, the text of a text or
+  // a date, nothing for an empty cell.
   std::string valueText() const;
   // A cell counts as empty when its value text has length 0 (a number's never has).
   bool isEmpty() const { return kind == Kind::Empty || (kind == Kind::Text && text.empty()); }

@@ -506,9 +506,7 @@ Value Recordset::get(const std::string& field) const {
 
 bool Recordset::isNull(const std::string& field) const { return get(field).isNull(); }
 
-int Recordset::fieldIndex(const std::string& field) const {
-  return liveRows(impl_).column(field);
-}
+int Recordset::fieldIndex(const std::string& field) const { return liveRows(impl_).column(field); }
 
 double Recordset::number(const std::string& field) const {
   return number(liveRows(impl_).column(field));

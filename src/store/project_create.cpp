@@ -54,7 +54,7 @@ class HoleWorkbook {
   double number(double row, int column) const {
     const int r = wholeIndex(row);
     const Cell cell = sheet_->cell(r, column);
-    if (cell.kind == Cell::Kind::Number) return cell.number;
+    if (cell.holdsNumber()) return cell.number;
     if (cell.isEmpty()) return 0;
     if (isNumberText(cell.text)) return toNumber(cell.text);
     throw Fault(FaultKind::TypeMismatch, "column " + std::to_string(column) + ", row " +

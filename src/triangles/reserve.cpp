@@ -162,8 +162,8 @@ long nextLimitSlot(const State& s, int p, int l, int d, long slot) {
   return slot;
 }
 
-void appendToLimitTables(State& s, Database& db, const CornerLogs& logs,
-                         const CornerHoles& holes, double area, const Extent& extent) {
+void appendToLimitTables(State& s, Database& db, const CornerLogs& logs, const CornerHoles& holes,
+                         double area, const Extent& extent) {
   const int p = s.project();
   const int l = s.lithology();
   const int d = s.drawing();

@@ -10,6 +10,7 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -112,9 +113,16 @@ TEST(SheetXls, CellKindsOfTheFirstSheet) {
   expectNumber(*sheet, 1, 2, 2.5);
   expectText(*sheet, 1, 3, "ore");
   expectText(*sheet, 1, 4, "101");
-  expectText(*sheet, 2, 1, "2021-03-04");
-  expectText(*sheet, 2, 2, "2021-03-04 10:30:00");
-  expectText(*sheet, 2, 3, "10:30:00");
+  // Dates and times are day numbers shown as their text.
+  for (auto [column, days, shown] :
+       std::vector<std::tuple<int, double, std::string>>{{1, 44259, "2021-03-04"},
+                                                         {2, 44259.4375, "2021-03-04 10:30:00"},
+                                                         {3, 0.4375, "10:30:00"}}) {
+    const Cell date = sheet->cell(2, column);
+    EXPECT_TRUE(date.holdsNumber()) << shown;
+    EXPECT_DOUBLE_EQ(date.number, days) << shown;
+    EXPECT_EQ(date.valueText(), shown);
+  }
   expectEmpty(*sheet, 2, 4);  // a formatted blank
   EXPECT_EQ(sheet->cell(3, 1).valueText(), "1E-05");
   expectNumber(*sheet, 3, 2, -12.5);

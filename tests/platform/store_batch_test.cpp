@@ -2,24 +2,23 @@
 // field as asked, and the write batches of the bulk writers.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <algorithm>
 
 #include "platform/store.h"
-#include "support/temp_dir.h"
 #include "store_test_support.h"
+#include "support/temp_dir.h"
 
 namespace tri {
 namespace {
 
-const std::vector<FieldDef> kFields = {{"a", FieldType::Long}, {"b", FieldType::Long},
-                                       {"c", FieldType::Long}, {"name", FieldType::Text},
-                                       {"d", FieldType::Long}, {"e", FieldType::Long},
-                                       {"f", FieldType::Long}, {"g", FieldType::Long},
-                                       {"h", FieldType::Long}, {"i", FieldType::Long},
-                                       {"j", FieldType::Long}, {"k", FieldType::Long}};
+const std::vector<FieldDef> kFields = {
+    {"a", FieldType::Long},    {"b", FieldType::Long}, {"c", FieldType::Long},
+    {"name", FieldType::Text}, {"d", FieldType::Long}, {"e", FieldType::Long},
+    {"f", FieldType::Long},    {"g", FieldType::Long}, {"h", FieldType::Long},
+    {"i", FieldType::Long},    {"j", FieldType::Long}, {"k", FieldType::Long}};
 
 void appendRow(Recordset& rs, int n) {
   rs.addNew();
@@ -80,10 +79,10 @@ TEST(StoreFieldReads, FieldsAskedForLateOrOutOfOrderReadTheirOwnRow) {
     if (name == "name") {
       EXPECT_EQ(rs.text(name), "row10");
     } else {
-      const int f = static_cast<int>(
-          std::find_if(kFields.begin(), kFields.end(), [&](const FieldDef& d) {
-            return d.name == name;
-          }) - kFields.begin());
+      const int f =
+          static_cast<int>(std::find_if(kFields.begin(), kFields.end(),
+                                        [&](const FieldDef& d) { return d.name == name; }) -
+                           kFields.begin());
       EXPECT_EQ(rs.number(name), 1000 + f);
     }
   }

@@ -110,15 +110,31 @@ TEST(LeftChars, CountsCharactersNotBytes) {
 // The general text is made without printf on its fast path; it must agree with %.15G for
 // every kind of number the program meets.
 TEST(NumberText, AgreesWithFifteenDigitPrintfEverywhere) {
-  std::vector<double> values = {0.1,     0.5,      1.2345,   2.675,    1e-4,   9.99999e-5,
-                                1e-5,    123.456,  1e14,     1e15,     9.99999999999999e14,
-                                2147483.647, 0.001, -12.5, 1.0 / 3, 2.0 / 3, 1e300, 5e-324,
-                                123456789012345678.0, 0.30000000000000004};
+  std::vector<double> values = {0.1,
+                                0.5,
+                                1.2345,
+                                2.675,
+                                1e-4,
+                                9.99999e-5,
+                                1e-5,
+                                123.456,
+                                1e14,
+                                1e15,
+                                9.99999999999999e14,
+                                2147483.647,
+                                0.001,
+                                -12.5,
+                                1.0 / 3,
+                                2.0 / 3,
+                                1e300,
+                                5e-324,
+                                123456789012345678.0,
+                                0.30000000000000004};
   uint64_t seed = 88172645463325252ull;
   auto next = [&] { return seed ^= seed << 13, seed ^= seed >> 7, seed ^= seed << 17; };
   for (int i = 0; i < 20000; ++i) {
-    const double thousandths = static_cast<double>(static_cast<int64_t>(next() % 4294967296ull) -
-                                                   2147483648ll) / 1000;
+    const double thousandths =
+        static_cast<double>(static_cast<int64_t>(next() % 4294967296ull) - 2147483648ll) / 1000;
     values.push_back(thousandths);
     values.push_back(thousandths * 7 / 3);
     double bits;

@@ -48,8 +48,9 @@ TEST(Ondayaz, ExponentTextIsNotTreatedSpecially) {
 
 // ondayaz skips making the text for plain decimal numbers; it must give what the text gives.
 TEST(Ondayaz, AgreesWithItsTextForEveryKindOfNumber) {
-  std::vector<double> values = {0.5,    0.0005, 0.00049, 0.001, -0.0001, 0.12345, 99999999999.999,
-                                1e14,   -1e14,  0.1 + 0.2, 123456789012.345, 5e-324, -7.25};
+  std::vector<double> values = {
+      0.5,   0.0005,    0.00049,          0.001,  -0.0001, 0.12345, 99999999999.999, 1e14,
+      -1e14, 0.1 + 0.2, 123456789012.345, 5e-324, -7.25};
   uint64_t seed = 2463534242ull;
   auto next = [&] { return seed ^= seed << 13, seed ^= seed >> 7, seed ^= seed << 17; };
   for (int i = 0; i < 20000; ++i) {

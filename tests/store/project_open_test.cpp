@@ -112,8 +112,11 @@ TEST(OpenProject, LimitSlotsOneToTenOnlyAndFreedSlotsSkipped) {
   Session creator;
   const std::string path = creator.createProject(fixture("small.xls"));
   addDrawingRow(path, "ore", "Kuzey", 1,
-                {{1, {"Boş Alan", 0}}, {2, {"2Kuzey", 2000}}, {4, {"", 3000}},
-                 {5, {"2.5Kuzey", 2500}}, {12, {"5Kuzey", 5000}}});
+                {{1, {"Boş Alan", 0}},
+                 {2, {"2Kuzey", 2000}},
+                 {4, {"", 3000}},
+                 {5, {"2.5Kuzey", 2500}},
+                 {12, {"5Kuzey", 5000}}});
   addDrawingRow(path, "ore", "Guney", 2, {});
   Session s;
   s.openProject(path);

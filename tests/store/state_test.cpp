@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
-#include "store/state.h"
 #include "store/commands.h"
+#include "store/state.h"
 #include "support/session.h"
 
 namespace tri {

@@ -22,14 +22,14 @@ struct Values {
 };
 
 void PrintTo(const Values& v, std::ostream* os) {
-  *os << "{ilkuz " << v.ilkuz << ", tenor " << v.geneltenor << ", yog " << v.genelyog
-      << ", kubaj " << v.kubaj << ", tonaj " << v.tonaj << ", rezerv " << v.genelrezerv
-      << ", ill " << v.ill << "}";
+  *os << "{ilkuz " << v.ilkuz << ", tenor " << v.geneltenor << ", yog " << v.genelyog << ", kubaj "
+      << v.kubaj << ", tonaj " << v.tonaj << ", rezerv " << v.genelrezerv << ", ill " << v.ill
+      << "}";
 }
 
 Values summary(const StoredTable& t, int row) {
   return {t.number(row, "ilkuz"), t.number(row, "geneltenor"), t.number(row, "genelyog"),
-          t.number(row, "kubaj"),  t.number(row, "tonaj"),      t.number(row, "genelrezerv"),
+          t.number(row, "kubaj"), t.number(row, "tonaj"),      t.number(row, "genelrezerv"),
           t.number(row, "ill")};
 }
 
@@ -53,7 +53,8 @@ TEST(LimitPass, ATenorEqualToTheLimitCounts) {
   WorkedExample s;
   s.addLimit("3");
   s.pickABC();
-  EXPECT_EQ(summary(s.table("3Kuzey"), 5), (Values{25000, 3642, 2800, 25000, 70000, 2550, 1000000}));
+  EXPECT_EQ(summary(s.table("3Kuzey"), 5),
+            (Values{25000, 3642, 2800, 25000, 70000, 2550, 1000000}));
 }
 
 TEST(LimitPass, AnotherLithologyNeverCountsHoweverRich) {

@@ -76,10 +76,10 @@ TEST(Reserve, TheExtentChainsOfTheReadBackCorners) {
   r.state.flags.ilkmod = true;
   r.pickTriangle(120, 340, 180, 340, 210.25, 395.5);
   StoredTable u = r.table("Kuzey");
-  EXPECT_EQ(u.number(5, "ortucgen11"), 120000);      // smallest x: x1
-  EXPECT_EQ(u.number(5, "ortucgen1"), 90000);        // greatest x: the rounded x3, 210
-  EXPECT_EQ(u.number(5, "ortucgen21"), 340000);      // smallest y: y1
-  EXPECT_EQ(u.number(5, "ortucgen2"), 130000);       // greatest y: 210, not 395.5
+  EXPECT_EQ(u.number(5, "ortucgen11"), 120000);  // smallest x: x1
+  EXPECT_EQ(u.number(5, "ortucgen1"), 90000);    // greatest x: the rounded x3, 210
+  EXPECT_EQ(u.number(5, "ortucgen21"), 340000);  // smallest y: y1
+  EXPECT_EQ(u.number(5, "ortucgen2"), 130000);   // greatest y: 210, not 395.5
 }
 
 TEST(Reserve, ExtentsAreZeroOnceTheFirstCommandClearedTheFlag) {
