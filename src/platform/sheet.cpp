@@ -12,13 +12,12 @@
 #include <cstdint>
 #include <cstdio>
 #include <exception>
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include "platform/compound_file.h"
 #include "platform/fault.h"
 #include "platform/vbtext.h"
 
@@ -180,101 +179,30 @@ Cell cellFrom(const FreeXL_CellValue& value) {
   return cell;
 }
 
-// The compound-file container of an .xls workbook, read only as far as its directory. FreeXL
-// 1.0.6 trusts the name length of a directory entry and reads past the 64-byte name when that
-// length is damaged, so such a file is turned away before FreeXL sees it.
-class CompoundDirectory {
- public:
-  explicit CompoundDirectory(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    try {
-      bytes_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    } catch (const std::exception&) {
-      bytes_.clear();  // a folder or an unreadable file: FreeXL says why
-    }
-  }
-
-  // False when the file is not a compound file at all; FreeXL then says why.
-  bool hasDamagedEntryName() {
-    static const unsigned char signature[] = {0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1};
-    if (bytes_.size() < kHeaderSize || !std::equal(signature, signature + 8, bytes_.begin()))
-      return false;
-    unsigned shift = u16(0x1E);
-    if (shift != 9 && shift != 12) return false;
-    sectorSize_ = size_t{1} << shift;
-    collectFatSectors();
-    size_t steps = bytes_.size() / sectorSize_ + 1;  // a looping chain ends here
-    for (uint32_t sector = u32(0x30); sector < kLastRegularSector && steps > 0; --steps) {
-      size_t start = sectorStart(sector);
-      if (start + sectorSize_ > bytes_.size()) return false;
-      for (size_t entry = start; entry < start + sectorSize_; entry += kEntrySize) {
-        if (u16(entry + kNameLengthOffset) > kMaxNameBytes) return true;
-      }
-      sector = fatEntry(sector);
-    }
-    return false;
-  }
-
- private:
-  static constexpr size_t kHeaderSize = 512;
-  static constexpr size_t kEntrySize = 128;
-  static constexpr size_t kNameLengthOffset = 64;
-  static constexpr unsigned kMaxNameBytes = 64;
-  static constexpr uint32_t kLastRegularSector = 0xFFFFFFFA;
-  static constexpr uint32_t kEndOfChain = 0xFFFFFFFE;
-  static constexpr size_t kHeaderFatSlots = 109;
-
-  // The FAT sectors: 109 listed in the header, the rest in the chain of extra list sectors.
-  void collectFatSectors() {
-    fatSectors_.clear();
-    for (size_t slot = 0; slot < kHeaderFatSlots; ++slot) addFatSector(u32(0x4C + 4 * slot));
-    size_t slotsPerSector = sectorSize_ / 4 - 1;
-    size_t steps = bytes_.size() / sectorSize_ + 1;
-    for (uint32_t sector = u32(0x44); sector < kLastRegularSector && steps > 0; --steps) {
-      size_t start = sectorStart(sector);
-      if (start + sectorSize_ > bytes_.size()) return;
-      for (size_t slot = 0; slot < slotsPerSector; ++slot) addFatSector(u32(start + 4 * slot));
-      sector = u32(start + 4 * slotsPerSector);
-    }
-  }
-
-  void addFatSector(uint32_t sector) {
-    if (sector < kLastRegularSector) fatSectors_.push_back(sector);
-  }
-
-  uint32_t fatEntry(uint32_t sector) const {
-    size_t perSector = sectorSize_ / 4;
-    if (sector / perSector >= fatSectors_.size()) return kEndOfChain;
-    return u32(sectorStart(fatSectors_[sector / perSector]) + 4 * (sector % perSector));
-  }
-
-  size_t sectorStart(uint32_t sector) const { return (size_t{sector} + 1) * sectorSize_; }
-
-  // Little-endian values; bytes beyond the file read as all ones, which ends any chain.
-  uint32_t u32(size_t at) const {
-    if (at + 4 > bytes_.size()) return 0xFFFFFFFF;
-    return u16(at) | uint32_t{u16(at + 2)} << 16;
-  }
-  unsigned u16(size_t at) const {
-    if (at + 2 > bytes_.size()) return 0xFFFF;
-    return bytes_[at] | unsigned{bytes_[at + 1]} << 8;
-  }
-
-  std::vector<unsigned char> bytes_;
-  size_t sectorSize_ = kHeaderSize;
-  std::vector<uint32_t> fatSectors_;
-};
-
 // FreeXL 1.0.6 can crash or corrupt memory on some damaged workbooks (a single changed byte in
 // the workbook records is enough). A child process reads the whole first sheet first, so such a
 // file ends only the child; the program then reads the file itself.
 enum class TrialRead { Passed, Crashed, Hung };
 
+// The index of the sheet named `name` among FreeXL's worksheets; the first sheet when no
+// name is known or none has it.
+unsigned short worksheetNamed(const void* handle, const std::optional<std::string>& name) {
+  unsigned count = 0;
+  if (!name || freexl_get_info(handle, FREEXL_BIFF_SHEET_COUNT, &count) != FREEXL_OK) return 0;
+  for (unsigned short index = 0; index < count; ++index) {
+    const char* found = nullptr;
+    if (freexl_get_worksheet_name(handle, index, &found) == FREEXL_OK && found && *name == found)
+      return index;
+  }
+  return 0;
+}
+
 // In the child: FreeXL only, then _exit, so no handler of the parent runs twice.
-[[noreturn]] void readEverythingAndExit(const char* path) {
+[[noreturn]] void readEverythingAndExit(const char* path,
+                                        const std::optional<std::string>& sheet) {
   const void* handle = nullptr;
   if (freexl_open(path, &handle) == FREEXL_OK &&
-      freexl_select_active_worksheet(handle, 0) == FREEXL_OK) {
+      freexl_select_active_worksheet(handle, worksheetNamed(handle, sheet)) == FREEXL_OK) {
     unsigned rows = 0;
     unsigned short columns = 0;
     if (freexl_worksheet_dimensions(handle, &rows, &columns) == FREEXL_OK) {
@@ -290,11 +218,11 @@ enum class TrialRead { Passed, Crashed, Hung };
   _exit(0);
 }
 
-TrialRead trialRead(const std::string& path) {
+TrialRead trialRead(const std::string& path, const std::optional<std::string>& sheet) {
   constexpr auto kPatience = std::chrono::seconds(60);
   pid_t child = fork();
   if (child < 0) return TrialRead::Passed;  // no child to spare: read in-process as before
-  if (child == 0) readEverythingAndExit(path.c_str());
+  if (child == 0) readEverythingAndExit(path.c_str(), sheet);
   auto deadline = std::chrono::steady_clock::now() + kPatience;
   auto pause = std::chrono::microseconds(200);
   int status = 0;
@@ -316,10 +244,10 @@ TrialRead trialRead(const std::string& path) {
 class XlsSheet : public Sheet {
  public:
   explicit XlsSheet(const std::string& path) : path_(path) {
-    if (CompoundDirectory(path).hasDamagedEntryName()) {
-      workbookFault(path_, "the file's directory is damaged");
-    }
-    switch (trialRead(path)) {
+    CompoundFile container(path);
+    if (container.hasDamagedEntryName()) workbookFault(path_, "the file's directory is damaged");
+    const std::optional<std::string> activeSheet = container.activeSheetName();
+    switch (trialRead(path, activeSheet)) {
       case TrialRead::Crashed:
         workbookFault(path_, "the file is badly damaged");
       case TrialRead::Hung:
@@ -334,7 +262,7 @@ class XlsSheet : public Sheet {
     }
     if (infoOf(xls_, FREEXL_BIFF_SHEET_COUNT) == 0)
       workbookFault(path_, "the workbook has no sheet");
-    check(freexl_select_active_worksheet(xls_.get(), 0));
+    check(freexl_select_active_worksheet(xls_.get(), worksheetNamed(xls_.get(), activeSheet)));
     check(freexl_worksheet_dimensions(xls_.get(), &rows_, &columns_));
   }
 

@@ -1,5 +1,5 @@
-// Workbooks of drill-hole and point-set data: the cells of the active (first) sheet of an
-// .xls file, by row and column counted from 1.
+// Workbooks of drill-hole and point-set data: the cells of the sheet a workbook was saved
+// with active (the first, when the file does not say), by row and column counted from 1.
 #pragma once
 
 #include <functional>

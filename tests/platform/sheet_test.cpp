@@ -132,6 +132,14 @@ TEST(SheetXls, CellKindsOfTheFirstSheet) {
   expectEmpty(*sheet, 6, 6);
 }
 
+TEST(SheetXls, TheSheetSavedActiveIsTheOneRead) {
+  auto sheet = openXlsSheet(fixture("second_active.xls"));
+  expectText(*sheet, 3, 1, "S-1");
+  expectNumber(*sheet, 13, 1, 1.2345);
+  // A workbook that names no active sheet other than its first is read from the first.
+  expectNumber(*openXlsSheet(fixture("cell_kinds.xls")), 1, 1, 7);
+}
+
 TEST(SheetXls, LogsWithGapsTextsAndZeros) {
   auto blank = openXlsSheet(fixture("blank_inside.xls"));
   expectNumber(*blank, 14, 2, 2.8);
