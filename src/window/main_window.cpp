@@ -104,6 +104,7 @@ QWidget* MainWindow::buildCanvasArea(QWidget* parent) {
   auto* area = new QWidget(parent);
   auto* layout = new QHBoxLayout(area);
   layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);  // the print panels take no room while they are hidden
   const ProcedureRunner run = [this](const std::string& name) { runProcedure(name); };
   // The print column at the left edge, the preview page to its right, then the canvas.
   layout->addWidget(buildPrintColumn(widgets_, area, run));
