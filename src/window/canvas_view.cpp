@@ -69,8 +69,10 @@ float CanvasView::worldY(const QMouseEvent* event) const {
   return static_cast<float>(canvas_.toWorldY(event->position().y()));
 }
 
+// Buttons beyond the three (back, forward) mean nothing to the canvas.
 void CanvasView::mousePressEvent(QMouseEvent* event) {
-  emit pressed(logicButton(event->button()), worldX(event), worldY(event));
+  const int button = logicButton(event->button());
+  if (button != 0) emit pressed(button, worldX(event), worldY(event));
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
@@ -78,7 +80,8 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
-  emit released(logicButton(event->button()), worldX(event), worldY(event));
+  const int button = logicButton(event->button());
+  if (button != 0) emit released(button, worldX(event), worldY(event));
 }
 
 }  // namespace tri

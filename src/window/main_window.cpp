@@ -119,6 +119,10 @@ QWidget* MainWindow::buildScrollBar(QWidget* parent) {
   bar->setRange(0, kScrollMaximum);
   // A drag reports its value when the thumb is let go.
   bar->setTracking(false);
+  // The canvas keeps the bar's room when it is hidden, so showing it resizes nothing.
+  QSizePolicy policy = bar->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  bar->setSizePolicy(policy);
   widgets_.hscroll1 = bar;
   connect(bar, &QScrollBar::valueChanged, this, [this](int value) {
     runCommand([this, value] {
@@ -163,8 +167,13 @@ void MainWindow::connectHooks() {
   state_.ui.onLayout = [this] { reflectControls(state_.ui, widgets_); };
 }
 
+// An item without a procedure still runs as an empty command, so that the controls are
+// shown again as the logic has them (Qt would otherwise leave its own check mark).
 void MainWindow::runProcedure(const std::string& name) {
-  if (Procedure procedure = findProcedure(name)) runCommand([=, this] { procedure(state_); });
+  const Procedure procedure = findProcedure(name);
+  runCommand([=, this] {
+    if (procedure) procedure(state_);
+  });
 }
 
 void MainWindow::runCommand(const std::function<void()>& command) {
