@@ -75,7 +75,8 @@ std::string TableInfo::sqlOf(Statement kind) const {
       for (size_t i = 0; !selectsAll && i < selected.size(); ++i) {
         columns += (i ? "," : "") + sqlName(fields[selected[i]].name);
       }
-      if (!rowsCarryRowid) return "SELECT " + columns + " FROM " + table + " WHERE " + rowid + "=?1";
+      if (!rowsCarryRowid)
+        return "SELECT " + columns + " FROM " + table + " WHERE " + rowid + "=?1";
       return "SELECT " + rowid + ", " + columns + " FROM " + table + " WHERE " + rowid +
              ">=?1 ORDER BY " + rowid;
     }
@@ -240,31 +241,36 @@ bool Connection::nameTaken(const std::string& name) {
 
 std::shared_ptr<TableInfo> Connection::table(const std::string& name) {
   if (auto cached = tables.find(name); cached != tables.end()) return cached->second;
-  std::optional<std::string> stored = storedTableName(name);
-  if (!stored) {
+  std::shared_ptr<TableInfo> info = isReservedName(name) ? nullptr : loadTable(name);
+  if (!info) {
     fail(FaultKind::Database, "table " + shown(name) + " does not exist in " + shown(path));
   }
-  std::shared_ptr<TableInfo> info = loadTable(*stored);
   tables.emplace(info->name, info);
   return info;
 }
 
-std::shared_ptr<TableInfo> Connection::loadTable(const std::string& storedName) {
-  std::string what = "cannot read the fields of table " + shown(storedName);
-  SqliteStatement statement =
-      prepare("SELECT name, type FROM pragma_table_info(?1) ORDER BY cid", what, false);
-  sqlite3_bind_text(statement.get(), 1, storedName.data(), static_cast<int>(storedName.size()),
-                    SQLITE_STATIC);
+std::shared_ptr<TableInfo> Connection::loadTable(const std::string& name) {
+  std::string what = "cannot read the fields of table " + shown(name);
+  if (!tableLookup.isPrepared()) {
+    tableLookup = prepare(
+        "SELECT s.name, p.name, p.type FROM sqlite_schema AS s, pragma_table_info(s.name) AS p"
+        " WHERE s.type = 'table' AND s.name = ?1 COLLATE NOCASE ORDER BY p.cid",
+        what, true);
+  }
+  sqlite3_stmt* statement = tableLookup.get();
+  sqlite3_bind_text(statement, 1, name.data(), static_cast<int>(name.size()), SQLITE_TRANSIENT);
   auto info = std::make_shared<TableInfo>();
-  info->name = storedName;
   int rc;
-  while ((rc = sqlite3_step(statement.get())) == SQLITE_ROW) {
-    std::string type = columnText(statement.get(), 1);
+  while ((rc = sqlite3_step(statement)) == SQLITE_ROW) {
+    if (info->fields.empty()) info->name = columnText(statement, 0);
+    std::string type = columnText(statement, 2);
     info->fields.push_back(
-        {columnText(statement.get(), 0), isLongType(type) ? FieldType::Long : FieldType::Text});
+        {columnText(statement, 1), isLongType(type) ? FieldType::Long : FieldType::Text});
     info->columnOf.emplace(info->fields.back().name, static_cast<int>(info->fields.size() - 1));
   }
-  if (rc != SQLITE_DONE) stepFault(statement.get(), what);
+  if (rc != SQLITE_DONE) stepFault(statement, what);
+  tableLookup.reset();
+  if (info->fields.empty()) return nullptr;
   for (const char* alias : {"rowid", "_rowid_", "oid"}) {
     if (!info->columnOf.contains(alias)) {
       info->rowid = alias;
@@ -290,7 +296,9 @@ void Connection::forget(const std::string& storedName) {
 void Connection::close() {
   // Finalizing every statement first lets the engine checkpoint and remove the -wal file.
   for (auto& entry : tables) entry.second->finalize();
-  if (db.isOpen() && !sqlite3_get_autocommit(db.get())) sqlite3_exec(db.get(), "COMMIT", nullptr, nullptr, nullptr);
+  tableLookup.finalize();
+  if (db.isOpen() && !sqlite3_get_autocommit(db.get()))
+    sqlite3_exec(db.get(), "COMMIT", nullptr, nullptr, nullptr);
   tables.clear();
   db.close();
 }

@@ -92,6 +92,9 @@ struct Connection {
   std::unordered_map<std::string, std::shared_ptr<TableInfo>, store_internal::NoCaseHash,
                      store_internal::NoCaseEqual>
       tables;
+  // Finds a table and its fields in one step; kept for the connection's life, as commands
+  // such as a triangle's limit passes open many tables in a row.
+  SqliteStatement tableLookup;
 
   ~Connection() { close(); }
 
@@ -117,7 +120,8 @@ struct Connection {
   void close();
 
  private:
-  std::shared_ptr<TableInfo> loadTable(const std::string& storedName);
+  // The table as stored, with its fields, for a name in any case; none for a missing table.
+  std::shared_ptr<TableInfo> loadTable(const std::string& name);
   void requireDatabaseFile();
   void setJournal();
 };

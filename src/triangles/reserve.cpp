@@ -226,11 +226,15 @@ void finishTriangle(State& s, Database& db, const CornerHoles& holes) {
   v.area = area;
   v.cubage = volume / 1000;
   v.tonnage = volume * means.density / 1000;
+  // The summary row and the rows of every limit table go in as one write; a Fault among
+  // them keeps what was written before it.
+  WriteBatch batch = db.beginBatch();
   {
     Recordset drawing = db.openTable(s.ui.combo2.text());
     appendSummaryRow(drawing, s, v, extent);
   }
   appendToLimitTables(s, db, logs, holes, area, extent);
+  batch.commit();
   e.kosex = {};
   e.kosey = {};
 }
