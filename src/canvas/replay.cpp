@@ -53,7 +53,10 @@ void runRow(State& s, const ReplayRow& row) {
 
 void removeMarkers(State& s) {
   s.flags.sonkesmod = false;
-  if (s.markers.shapesay > 0) s.markers.shapesay = 0;
+  if (s.markers.shapesay > 0) {
+    s.markers.names.clear();
+    s.markers.shapesay = 0;
+  }
 }
 
 void clearDrawingFlags(State& s) {

@@ -173,8 +173,10 @@ struct Carry {
 };
 
 // The marker shapes of the Select-Cut view.
+// The marker shapes of the Select-Cut view, by the names they were made under.
 struct Markers {
   int shapesay = 0;
+  Bounded<std::string> names{"marker shapes", 9999};
 };
 
 // The colours that the colour dialogs remember.

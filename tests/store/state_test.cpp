@@ -24,6 +24,7 @@ TEST(Capacity, IndexPastABoundIsASubscriptFaultNamingArrayAndIndex) {
   EXPECT_THROW(session.state.holes.ten(1000, 1), Fault);
   EXPECT_THROW(session.state.holes.lit(1, -1), Fault);
   EXPECT_NO_THROW(session.state.holes.uz(999, 999));
+  EXPECT_THROW(session.state.markers.names[10000], Fault);
 }
 
 TEST(Capacity, ReadingAnUnsetEntryGivesTheEmptyValue) {
