@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
 
@@ -57,10 +58,9 @@ class HoleWorkbook {
     if (cell.holdsNumber()) return cell.number;
     if (cell.isEmpty()) return 0;
     if (isNumberText(cell.text)) return toNumber(cell.text);
-    throw Fault(FaultKind::TypeMismatch, "column " + std::to_string(column) + ", row " +
-                                             std::to_string(r) + " of " + path_ +
-                                             " holds the text \"" + cell.text +
-                                             "\" where a number is needed");
+    throw Fault(FaultKind::TypeMismatch,
+                "column " + std::to_string(column) + ", row " + std::to_string(r) + " of " + path_ +
+                    " holds the text \"" + cell.text + "\" where a number is needed");
   }
 
   std::string text(double row, int column) const {
@@ -136,23 +136,45 @@ ReadHoles readHoles(State& s, const HoleWorkbook& book, int p) {
   return read;
 }
 
-// Appends one hole as a row of kor or log: its values through ondayaz, its layers, and the
-// end of its log in the slot after the last layer.
-void appendHoleRow(Recordset& rs, const Holes& h, int i, int layers) {
-  rs.addNew();
-  rs.set("eks", ondayaz(h.eks[i]));
-  rs.set("eye", ondayaz(h.eye[i]));
-  rs.set("songir", ondayaz(h.songir[i]));
-  rs.set("cevgir", ondayaz(h.cevgir[i]));
-  rs.set("cevcik", ondayaz(h.cevcik[i]));
-  rs.set("soncik", ondayaz(h.soncik[i]));
-  rs.set("isim", h.isim[i]);
+// A hole's values as stored, through ondayaz, made once for both kor and log.
+struct StoredHole {
+  double eks, eye, songir, cevgir, cevcik, soncik;
+  std::vector<std::array<double, 4>> layers;  // ten, yog, uz, dya of layer k at k - 1
+};
+
+StoredHole storedHole(const Holes& h, int i, int layers) {
+  StoredHole stored{ondayaz(h.eks[i]),
+                    ondayaz(h.eye[i]),
+                    ondayaz(h.songir[i]),
+                    ondayaz(h.cevgir[i]),
+                    ondayaz(h.cevcik[i]),
+                    ondayaz(h.soncik[i]),
+                    {}};
   for (int k = 1; k <= layers; ++k) {
+    stored.layers.push_back(
+        {ondayaz(h.ten(i, k)), ondayaz(h.yog(i, k)), ondayaz(h.uz(i, k)), ondayaz(h.dya(i, k))});
+  }
+  return stored;
+}
+
+// Appends one hole as a row of kor or log: its stored values, its layers, and the end of
+// its log in the slot after the last layer.
+void appendHoleRow(Recordset& rs, const Holes& h, int i, const StoredHole& stored) {
+  rs.addNew();
+  rs.set("eks", stored.eks);
+  rs.set("eye", stored.eye);
+  rs.set("songir", stored.songir);
+  rs.set("cevgir", stored.cevgir);
+  rs.set("cevcik", stored.cevcik);
+  rs.set("soncik", stored.soncik);
+  rs.set("isim", h.isim[i]);
+  for (int k = 1; k <= static_cast<int>(stored.layers.size()); ++k) {
+    const std::array<double, 4>& layer = stored.layers[k - 1];
     rs.set(layerField(LayerField::Lit, k), h.lit(i, k));
-    rs.set(layerField(LayerField::Ten, k), ondayaz(h.ten(i, k)));
-    rs.set(layerField(LayerField::Yog, k), ondayaz(h.yog(i, k)));
-    rs.set(layerField(LayerField::Uz, k), ondayaz(h.uz(i, k)));
-    rs.set(layerField(LayerField::Dya, k), ondayaz(h.dya(i, k)));
+    rs.set(layerField(LayerField::Ten, k), layer[0]);
+    rs.set(layerField(LayerField::Yog, k), layer[1]);
+    rs.set(layerField(LayerField::Uz, k), layer[2]);
+    rs.set(layerField(LayerField::Dya, k), layer[3]);
   }
 }
 
@@ -168,21 +190,27 @@ void appendEndMark(Recordset& rs) {
   rs.update();
 }
 
-void writeKor(Database& db, const Holes& h, const ReadHoles& read) {
+// Writes kor, and returns the holes' stored values for log: each hole's are made as its
+// row is written, so a value that fails stops the writing at its own row.
+std::vector<StoredHole> writeKor(Database& db, const Holes& h, const ReadHoles& read) {
   Recordset kor = db.openTable(kHoleTable);
+  std::vector<StoredHole> stored(h.sondsay + 1);
   for (int i = 1; i <= h.sondsay; ++i) {
-    appendHoleRow(kor, h, i, read.layers[i]);
+    stored[i] = storedHole(h, i, read.layers[i]);
+    appendHoleRow(kor, h, i, stored[i]);
     endHoleRow(kor, read.layers[i]);
   }
   appendEndMark(kor);
+  return stored;
 }
 
-void writeLog(Database& db, const Holes& h, const ReadHoles& read, int lithologies) {
+void writeLog(Database& db, const Holes& h, const ReadHoles& read,
+              const std::vector<StoredHole>& stored, int lithologies) {
   Recordset log = db.openTable(kLogTable);
   std::vector<std::string> marks;
   for (int k = 1; k <= lithologies; ++k) marks.push_back(numbered("deg", k));
   for (int i = 1; i <= h.sondsay; ++i) {
-    appendHoleRow(log, h, i, read.layers[i]);
+    appendHoleRow(log, h, i, stored[i]);
     for (const std::string& mark : marks) log.set(mark, kMarkedNo);
     endHoleRow(log, read.layers[i]);
   }
@@ -226,8 +254,9 @@ void say(State& s, const std::string& text, const std::string& title) {
 // A new project's own form of the area limit: the user decides whether to shrink.
 void checkNewProjectArea(State& s) {
   if (frameAreaKm2(s.frame) < kAreaLimitKm2) return;
-  say(s, "You have passed the Plane Counted Area Value (50 Square Kilometers) ! Projection "
-         "required.",
+  say(s,
+      "You have passed the Plane Counted Area Value (50 Square Kilometers) ! Projection "
+      "required.",
       "Attention !");
   const Answer fix = s.dialogs.messageBox(
       "If the Relevant Area is Reduced, You Cannot Work with Drills Outside the Area Value. "
@@ -269,8 +298,8 @@ void Mnprolus_Click(State& s) {
   const int slots = static_cast<int>(std::floor(layerGroups + 1));
   db.createTable(kHoleTable, holeFields(slots));
 
-  for (bool Flags::*view : {&Flags::modyuzdeten, &Flags::modrezton, &Flags::modgenelrezerv,
-                            &Flags::modrecboy}) {
+  for (bool Flags::*view :
+       {&Flags::modyuzdeten, &Flags::modrezton, &Flags::modgenelrezerv, &Flags::modrecboy}) {
     s.flags.*view = false;
   }
   s.canvas.cls();
@@ -280,8 +309,8 @@ void Mnprolus_Click(State& s) {
   WriteBatch batch = db.beginBatch();
   db.createTable(kLogTable, logFields(slots, s.projects.litsay[p]));
   writeLithologies(db, s, p);
-  writeKor(db, h, read);
-  writeLog(db, h, read, s.projects.litsay[p]);
+  const std::vector<StoredHole> stored = writeKor(db, h, read);
+  writeLog(db, h, read, stored, s.projects.litsay[p]);
   writePolHeader(db);
   batch.commit();
   db.close();
