@@ -115,6 +115,14 @@ void writeDrawing(const std::string& path, const std::string& name, int triangle
   ore.update();
 }
 
+std::string projectWithDrawing(const std::string& file, const std::string& drawing, int limits) {
+  Session s;
+  const std::string made = benchFolder().file(file);
+  createProject(s, holeWorkbook(kHoles, kLayers), made);
+  writeDrawing(made, drawing, kTriangles, limits);
+  return made;
+}
+
 void openAndSelect(Session& s, const std::string& path) {
   s.openProject(path);
   s.state.ui.combo4.setListIndex(1);

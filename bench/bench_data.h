@@ -39,4 +39,8 @@ void writeDrawing(const std::string& path, const std::string& name, int triangle
 // Opens the project in the session and selects lithology "ore" and the drawing.
 void openAndSelect(Session& s, const std::string& path);
 
+// A project file of the bench folder, made from a workbook of 999 holes of 48 layers, with
+// one drawing of 999 triangles and `limits` limit tables.
+std::string projectWithDrawing(const std::string& file, const std::string& drawing, int limits);
+
 }  // namespace tri::bench

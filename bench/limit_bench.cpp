@@ -11,13 +11,7 @@ namespace tri::bench {
 namespace {
 
 const std::string& studyProject() {
-  static const std::string path = [] {
-    Session s;
-    const std::string made = benchFolder().file("study.mdb");
-    createProject(s, holeWorkbook(kHoles, kLayers), made);
-    writeDrawing(made, "Cu", kTriangles, 0);
-    return made;
-  }();
+  static const std::string path = projectWithDrawing("study.mdb", "Cu", 0);
   return path;
 }
 

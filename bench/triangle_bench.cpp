@@ -11,13 +11,7 @@ namespace {
 
 // A project of 999 holes with the drawing "Ag" of 999 triangles and 30 limit tables.
 const std::string& networkProject() {
-  static const std::string path = [] {
-    Session s;
-    const std::string made = benchFolder().file("network.mdb");
-    createProject(s, holeWorkbook(kHoles, kLayers), made);
-    writeDrawing(made, "Ag", kTriangles, kLimitTables);
-    return made;
-  }();
+  static const std::string path = projectWithDrawing("network.mdb", "Ag", kLimitTables);
   return path;
 }
 
