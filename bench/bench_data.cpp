@@ -1,6 +1,6 @@
 #include "bench_data.h"
 
-#include "store/commands.h"
+#include "project/commands.h"
 #include "store/project_format.h"
 
 namespace tri::bench {

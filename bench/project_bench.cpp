@@ -6,7 +6,7 @@
 
 #include "bench_data.h"
 #include "sqlite_floor.h"
-#include "store/commands.h"
+#include "project/commands.h"
 
 namespace tri::bench {
 namespace {

@@ -4,6 +4,7 @@
 
 #include "bench_data.h"
 #include "sqlite_floor.h"
+#include "commands/procedures.h"
 #include "triangles/commands.h"
 
 namespace tri::bench {

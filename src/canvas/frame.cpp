@@ -2,11 +2,9 @@
 
 #include <cmath>
 
-#include "canvas/commands.h"
 #include "canvas/replay.h"
 #include "platform/store.h"
 #include "platform/vbtext.h"
-#include "store/commands.h"
 #include "store/hole_lists.h"
 #include "store/project_format.h"
 
@@ -147,26 +145,10 @@ void frameFit(State& s, LimitWording wording) {
   f.gridysay = divide(f.haritayuk, f.olceky, "grid rows of a frame without height");
 }
 
-void Mnlimit_Click(State& s) {
-  removeMarkers(s);
-  s.frame.olcekgirildi = false;
+void layoutAfterLoad(State& s) {
+  // The layout sizes the window again, and a resize clears the drawing flags.
   clearDrawingFlags(s);
-  {
-    Database db = Database::open(s.projectPath());
-    Recordset kor = db.openTable(kHoleTable);
-    loadHoleCoordinates(s, kor, HoleListEnd::ZeroX);
-  }
-  frameReset(s);
-  s.frame.kaydirx = 0;
-  s.frame.kaydiry = 0;
-  applyAreaLimit(s, LimitWording::Plain);
-  s.frame.haritagen = s.frame.ebxk - s.frame.ekxk;
-  s.frame.haritayuk = s.frame.ebyk - s.frame.ekyk;
-  layoutAfterLoad(s);
-  setCanvasScale(s);
-  // One of the commands that run the whole replay: the old picture goes even when no
-  // view is on.
-  replayAll(s);
+  if (s.ui.onLayout) s.ui.onLayout();
 }
 
 }  // namespace tri

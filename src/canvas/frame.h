@@ -28,6 +28,10 @@ bool applyAreaLimit(State& s, LimitWording wording);
 // Picture1.Scale with the corners (ekxk, ebyk) and (ebxk, ekyk): world metres, y upward.
 void setCanvasScale(State& s);
 
+// Lays out the window after the holes are loaded (the window's own business); the
+// layout sizes the window again, which clears the drawing flags.
+void layoutAfterLoad(State& s);
+
 // The head of every plan view: fits the frame to the canvas, applies a typed scale and the
 // area limit, sets the canvas scale, the Label4 caption and the grid counts.
 void frameFit(State& s, LimitWording wording);

@@ -1,35 +1,65 @@
 #include "commands/procedures.h"
 
+#include <stdexcept>
+
 #include "canvas/commands.h"
-#include "limit/commands.h"
-#include "store/commands.h"
+#include "commands/menu.h"
+#include "project/commands.h"
 #include "triangles/commands.h"
 
 namespace tri {
 
+namespace {
+
+// The events of controls other than the menu, and the repaint that scenarios ask for.
+const ProcedureEntry kControlEvents[] = {
+    {"Combo5_Click", Combo5_Click},
+    {"Combo4_Click", Combo4_Click},
+    {"Combo2_Click", Combo2_Click},
+    {"Combo1_Click", Combo1_Click},
+    {"Command1_Click", nullptr},
+    {"Command2_Click", nullptr},
+    {"HScroll1_Change", nullptr},
+    {"Form_Load", Form_Load},
+    {"ucgenplan", ucgenplan},
+};
+
+// The redraw replay, in its required order: the production, scan and digitizing tools,
+// then from the tenor map on the tail that the selectors also run.
+const ReplayRow kReplay[] = {
+    {&Flags::modselan, nullptr, nullptr},        // area selection
+    {&Flags::modsucgen, nullptr, nullptr},       // triangle selection
+    {&Flags::modurcev, nullptr, nullptr},        // digitized closing, and its points
+    {&Flags::modselan2, nullptr, nullptr},       // area selection, second pass
+    {&Flags::modurort, nullptr, nullptr},        // production averages
+    {&Flags::moduretopr, nullptr, nullptr},      // production totals
+    {&Flags::modsucgen2, ucgenplan, nullptr},    // triangle selection over the network
+    {&Flags::modureciz2, ucgenplan, nullptr},    // production areas over the network
+    {&Flags::modureciz, nullptr, nullptr},       // production areas
+    {&Flags::modtiklama, ucgenplan, nullptr},    // scan selection
+    {&Flags::modtrtek, nullptr, nullptr},        // scan of one triangle
+    {&Flags::modtrtum, nullptr, nullptr},        // scan of all triangles
+    {&Flags::modyuzdeten, nullptr, nullptr},     // tenor map
+    {&Flags::modrezton, nullptr, nullptr},       // reserve tonnage map
+    {&Flags::modgenelrezerv, nullptr, nullptr},  // general reserve map
+    {&Flags::modrecboy, nullptr, nullptr},       // 3D reserve view
+    {&Flags::modcikart, nullptr, nullptr},       // hole removal
+    {&Flags::moducsec, nullptr, nullptr},        // triangle removal
+    {&Flags::modcizim, nullptr, ucgenplan},      // triangle entry: the network
+};
+
+}  // namespace
+
 const std::vector<ProcedureEntry>& procedures() {
-  static const std::vector<ProcedureEntry> table = {
-      // File
-      {"Mnprojeac_Click", Mnprojeac_Click},
-      {"Mnprolus_Click", Mnprolus_Click},
-      {"Mncikis_Click", Mncikis_Click},
-      // Triangle
-      {"Mncizek_Click", Mncizek_Click},
-      {"Mncizduz_Click", Mncizduz_Click},
-      {"Mncizisil_Click", Mncizisil_Click},
-      {"Mnlimekle_Click", Mnlimekle_Click},
-      {"Mnlimsil_Click", Mnlimsil_Click},
-      // Map
-      {"Mnlimit_Click", Mnlimit_Click},
-      // Selectors
-      {"Combo5_Click", Combo5_Click},
-      {"Combo4_Click", Combo4_Click},
-      {"Combo2_Click", Combo2_Click},
-      {"Combo1_Click", Combo1_Click},
-      // Window
-      {"Form_Load", Form_Load},
-      {"ucgenplan", ucgenplan},
-  };
+  static const std::vector<ProcedureEntry> table = [] {
+    std::vector<ProcedureEntry> entries;
+    for (const MenuItem& item : menuItems()) {
+      std::string name = procedureName(item);
+      if (!name.empty()) entries.push_back({std::move(name), item.procedure});
+    }
+    for (const ProcedureEntry& event : kControlEvents) entries.push_back(event);
+    return entries;
+  }();
   return table;
 }
 
@@ -37,14 +67,18 @@ Procedure findProcedure(std::string_view name) {
   for (const ProcedureEntry& entry : procedures()) {
     if (name == entry.name) return entry.run;
   }
-  return nullptr;
+  throw std::invalid_argument("no procedure named \"" + std::string(name) + "\"");
 }
 
 void connectControls(State& s) {
+  std::vector<std::string> items;
+  for (const MenuItem& item : menuItems()) items.emplace_back(item.name);
+  s.ui.setMenuItems(items);
   s.ui.combo5.onClick = [&s] { Combo5_Click(s); };
   s.ui.combo4.onClick = [&s] { Combo4_Click(s); };
   s.ui.combo2.onClick = [&s] { Combo2_Click(s); };
   s.ui.combo1.onClick = [&s] { Combo1_Click(s); };
+  s.replayRows = kReplay;
 }
 
 }  // namespace tri

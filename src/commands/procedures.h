@@ -1,7 +1,9 @@
-// Every menu and button procedure by name: the one table that the window's menu and the
-// scenario runner both use. It also connects the selectors to their click procedures.
+// Every procedure of the system by name: the menu's commands and the control events. The
+// window and the scenario runner look procedures up here, and `connectControls` wires the
+// program state to them when the program starts.
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -9,18 +11,26 @@
 
 namespace tri {
 
-using Procedure = void (*)(State&);
-
 struct ProcedureEntry {
-  const char* name;
-  Procedure run;
+  std::string name;
+  Procedure run;  // nullptr for a procedure that is not in this program yet
 };
 
+// The menu's procedures, then the control events, each once.
 const std::vector<ProcedureEntry>& procedures();
-// The procedure of that name, or nullptr.
+
+// The procedure of that name, nullptr for one that is not in this program yet. A name that
+// is no procedure of the system is a std::invalid_argument naming it.
 Procedure findProcedure(std::string_view name);
 
-// Setting a selector's list index runs its click procedure.
+// Wires a new program state: the selectors run their click procedures, the controls know
+// the menu's items, and the replay knows its views.
 void connectControls(State& s);
+
+// The canvas mouse events, with the button (1 left, 2 right) and the point in world
+// units. Each runs the fixed chain of branches whose mode flags are on.
+void Picture1_MouseDown(State& s, int button, float x, float y);
+void Picture1_MouseMove(State& s, int button, float x, float y);
+void Picture1_MouseUp(State& s, int button, float x, float y);
 
 }  // namespace tri

@@ -33,30 +33,62 @@ const std::string& Combo::item(int index) const {
   return items_[index];
 }
 
-Controls::Controls() {
-  for (const char* name : {"Picture1"}) visible_[name] = true;
+namespace {
+
+[[noreturn]] void noSuchControl(const std::string& name) {
+  throw Fault(FaultKind::ControlNotFound, "the window has no control named \"" + name + "\"");
 }
 
-const std::string& Controls::label(int number) const { return labels_.at(number); }
+}  // namespace
+
+Controls::Controls() {
+  for (const char* name :
+       {"Picture1", "Picture2", "HScroll1", "Combo3", "Command1", "Command2", "Frame1", "Frame2"}) {
+    visible_[name] = false;
+  }
+  visible_["Picture1"] = true;
+}
+
+const std::string& Controls::label(int number) const {
+  if (number < 1 || number >= static_cast<int>(labels_.size())) {
+    noSuchControl("Label" + std::to_string(number));
+  }
+  return labels_[number];
+}
 
 void Controls::setLabel(int number, const std::string& text) {
-  labels_.at(number) = text;
+  label(number);
+  labels_[number] = text;
   if (number == 1 && onProgress) onProgress();
 }
 
-bool Controls::enabled(const std::string& name) const {
-  auto it = menu_.find(name);
-  return it == menu_.end() || it->second.enabled;
+void Controls::setMenuItems(const std::vector<std::string>& names) {
+  menu_.clear();
+  for (const std::string& name : names) menu_[name] = MenuState{};
 }
 
-bool Controls::checked(const std::string& name) const {
+MenuState& Controls::menu(const std::string& name) {
   auto it = menu_.find(name);
-  return it != menu_.end() && it->second.checked;
+  if (it == menu_.end()) noSuchControl(name);
+  return it->second;
+}
+
+const MenuState& Controls::menu(const std::string& name) const {
+  auto it = menu_.find(name);
+  if (it == menu_.end()) noSuchControl(name);
+  return it->second;
 }
 
 bool Controls::visible(const std::string& name) const {
   auto it = visible_.find(name);
-  return it != visible_.end() && it->second;
+  if (it == visible_.end()) noSuchControl(name);
+  return it->second;
+}
+
+void Controls::show(const std::string& name, bool on) {
+  auto it = visible_.find(name);
+  if (it == visible_.end()) noSuchControl(name);
+  it->second = on;
 }
 
 }  // namespace tri

@@ -60,23 +60,28 @@ class Controls {
   Combo combo4{"Combo4", "Litotloji"};    // lithology
   Combo combo5{"Combo5", "Proje"};        // project
 
-  // Label1 .. Label13. Setting Label1 tells the window to show progress.
+  // Label1 .. Label13; another number is a "Control not found" Fault. Setting Label1
+  // tells the window to show progress.
   const std::string& label(int number) const;
   void setLabel(int number, const std::string& text);
 
-  // Menu items by their names (Mnkaydir, MNolcek, ...); unknown names start enabled and
-  // unchecked.
-  MenuState& menu(const std::string& name) { return menu_[name]; }
-  bool enabled(const std::string& name) const;
-  bool checked(const std::string& name) const;
-  void enable(const std::string& name, bool on = true) { menu_[name].enabled = on; }
-  void check(const std::string& name, bool on = true) { menu_[name].checked = on; }
+  // The menu's items by their names (Mnkaydir, MNolcek, ...), as the program gives them
+  // when it starts; each starts enabled and unchecked. A name that is not one of them is
+  // a "Control not found" Fault.
+  void setMenuItems(const std::vector<std::string>& names);
+  MenuState& menu(const std::string& name);
+  const MenuState& menu(const std::string& name) const;
+  bool enabled(const std::string& name) const { return menu(name).enabled; }
+  bool checked(const std::string& name) const { return menu(name).checked; }
+  void enable(const std::string& name, bool on = true) { menu(name).enabled = on; }
+  void check(const std::string& name, bool on = true) { menu(name).checked = on; }
 
-  // Visibility of panels and controls: Picture1, Picture2, HScroll1, Combo3, Command1,
-  // Command2, Frame1, Frame2.
+  // Visibility of the panels and controls that come and go: Picture1, Picture2, HScroll1,
+  // Combo3, Command1, Command2, Frame1 and Frame2. Another name is a "Control not found"
+  // Fault.
   bool visible(const std::string& name) const;
-  void show(const std::string& name, bool on = true) { visible_[name] = on; }
-  void hide(const std::string& name) { visible_[name] = false; }
+  void show(const std::string& name, bool on = true);
+  void hide(const std::string& name) { show(name, false); }
 
   LineControl line1;
   int hscroll1Value = 0;

@@ -14,6 +14,7 @@ const char* faultKindName(FaultKind kind) {
     case FaultKind::InvalidPropertyValue: return "Invalid property value";
     case FaultKind::Database: return "Database error";
     case FaultKind::Workbook: return "Workbook error";
+    case FaultKind::ControlNotFound: return "Control not found";
   }
   return "Run-time error";
 }

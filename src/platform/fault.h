@@ -22,6 +22,7 @@ enum class FaultKind {
   InvalidPropertyValue,
   Database,
   Workbook,
+  ControlNotFound,
 };
 
 // The runtime's name of a kind, such as "Type mismatch".

@@ -2,6 +2,14 @@
 
 namespace tri {
 
+void Flags::clearViews() {
+  const bool kept[] = {ilkmod, gridciz, sonkesmod};
+  *this = Flags{};
+  ilkmod = kept[0];
+  gridciz = kept[1];
+  sonkesmod = kept[2];
+}
+
 State::State(Canvas& canvasRef, Dialogs& dialogsRef)
     : canvas(canvasRef), dialogs(dialogsRef), openSheet(openXlsSheet) {}
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 
 #include "platform/bounded.h"
@@ -109,6 +110,23 @@ struct Flags {
   bool ilkmod = false;
   bool gridciz = false;
   bool sonkesmod = false;
+
+  // Turns off every view and tool of the replay, leaving the three flags above.
+  void clearViews();
+};
+
+struct State;
+
+// A command or event procedure of the system, over the program state.
+using Procedure = void (*)(State&);
+
+// One row of the redraw replay: when its flag is on, `first` (the triangle display, for
+// the rows that draw over the network) and then `procedure` run. A null procedure is
+// skipped.
+struct ReplayRow {
+  bool Flags::*flag;
+  Procedure first;
+  Procedure procedure;
 };
 
 // Triangle entry: the picks of the triangle under way and the run's triangle counters.
@@ -172,7 +190,6 @@ struct Carry {
   double bsy = 0;  // never assigned
 };
 
-// The marker shapes of the Select-Cut view.
 // The marker shapes of the Select-Cut view, by the names they were made under.
 struct Markers {
   int shapesay = 0;
@@ -203,6 +220,9 @@ struct State {
   Dialogs& dialogs;
   Controls ui;
   SheetOpener openSheet;
+  // The replay's rows in their order, given by the program when it starts; the views
+  // live above the canvas, which runs them through this table.
+  std::span<const ReplayRow> replayRows;
 
   Projects projects;
   Holes holes;

@@ -15,12 +15,6 @@ void Mncizisil_Click(State& s);
 // or limit table as black sides, and the holes on top.
 void ucgenplan(State& s);
 
-// The canvas mouse events, with the button (1 left, 2 right) and the point in world
-// units. Each runs the fixed chain of branches whose mode flags are on.
-void Picture1_MouseDown(State& s, int button, float x, float y);
-void Picture1_MouseMove(State& s, int button, float x, float y);
-void Picture1_MouseUp(State& s, int button, float x, float y);
-
 // Triangle entry: a pick at (x, y) with button 1, or a cancel with button 2.
 void ucgeciz(State& s, float x, float y, int button);
 

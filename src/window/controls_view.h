@@ -12,7 +12,7 @@
 
 #include "platform/controls.h"
 #include "window/canvas_view.h"
-#include "window/menu_table.h"
+#include "window/menu_bar.h"
 
 namespace tri {
 

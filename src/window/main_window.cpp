@@ -8,8 +8,8 @@
 
 #include "commands/procedures.h"
 #include "platform/fault.h"
-#include "store/commands.h"
-#include "triangles/commands.h"
+#include "commands/menu.h"
+#include "project/commands.h"
 #include "window/print_panels.h"
 #include "window/qt_dialogs.h"
 
@@ -53,7 +53,7 @@ MainWindow::MainWindow(Dialogs* dialogs, QWidget* parent)
   for (const auto& [number, caption] : printPanelCaptions()) state_.ui.setLabel(number, caption);
   buildWidgets();
   widgets_.menu =
-      buildMenuBar(menuBar(), menuRows(), [this](const std::string& name) { runProcedure(name); });
+      buildMenuBar(menuBar(), menuItems(), [this](Procedure procedure) { runProcedure(procedure); });
   connectHooks();
   resize(1100, 800);
   runCommand([this] { Form_Load(state_); });
@@ -105,7 +105,7 @@ QWidget* MainWindow::buildCanvasArea(QWidget* parent) {
   auto* layout = new QHBoxLayout(area);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);  // the print panels take no room while they are hidden
-  const ProcedureRunner run = [this](const std::string& name) { runProcedure(name); };
+  const ProcedureRunner run = [this](Procedure procedure) { runProcedure(procedure); };
   // The print column at the left edge, the preview page to its right, then the canvas.
   layout->addWidget(buildPrintColumn(widgets_, area, run));
   layout->addWidget(buildPreviewPage(widgets_, area, run), 0, Qt::AlignTop);
@@ -124,10 +124,11 @@ QWidget* MainWindow::buildScrollBar(QWidget* parent) {
   policy.setRetainSizeWhenHidden(true);
   bar->setSizePolicy(policy);
   widgets_.hscroll1 = bar;
-  connect(bar, &QScrollBar::valueChanged, this, [this](int value) {
-    runCommand([this, value] {
+  const Procedure change = findProcedure("HScroll1_Change");
+  connect(bar, &QScrollBar::valueChanged, this, [this, change](int value) {
+    runCommand([this, value, change] {
       state_.ui.hscroll1Value = value;
-      if (Procedure change = findProcedure("HScroll1_Change")) change(state_);
+      if (change) change(state_);
     });
   });
   return bar;
@@ -169,8 +170,7 @@ void MainWindow::connectHooks() {
 
 // An item without a procedure still runs as an empty command, so that the controls are
 // shown again as the logic has them (Qt would otherwise leave its own check mark).
-void MainWindow::runProcedure(const std::string& name) {
-  const Procedure procedure = findProcedure(name);
+void MainWindow::runProcedure(Procedure procedure) {
   runCommand([=, this] {
     if (procedure) procedure(state_);
   });

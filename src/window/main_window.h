@@ -45,8 +45,9 @@ class MainWindow : public QMainWindow {
   void connectCanvas();
   void connectHooks();
 
-  // Runs a procedure of the procedures table by name; a name not in it does nothing.
-  void runProcedure(const std::string& name);
+  // Runs a procedure as a command; nullptr (a command not in this program yet) runs an
+  // empty one.
+  void runProcedure(Procedure procedure);
   // Runs logic: a fault ends the program, otherwise the controls are reflected.
   void runCommand(const std::function<void()>& command);
   void afterCommand();

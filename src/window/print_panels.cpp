@@ -1,5 +1,7 @@
 #include "window/print_panels.h"
 
+#include "commands/procedures.h"
+
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -48,9 +50,9 @@ QGroupBox* printingFrame(ControlWidgets& widgets, QWidget* parent) {
 }
 
 QPushButton* button(ControlWidgets& widgets, const char* name, const char* caption, QWidget* parent,
-                    const std::function<void(const std::string&)>& run) {
+                    const ProcedureRunner& run) {
   auto* widget = addPanel(widgets, name, new QPushButton(caption, parent));
-  const std::string procedure = std::string(name) + "_Click";
+  const Procedure procedure = findProcedure(std::string(name) + "_Click");
   QObject::connect(widget, &QPushButton::clicked, widget, [run, procedure] { run(procedure); });
   return widget;
 }

@@ -14,7 +14,7 @@ namespace tri {
 const std::vector<std::pair<int, const char*>>& printPanelCaptions();
 
 // The column of Combo3, Frame1, Frame2 and Command1, with its widgets registered. A
-// button's click calls `run` with "<button name>_Click".
+// button's click runs its procedure, "<button name>_Click".
 QWidget* buildPrintColumn(ControlWidgets& widgets, QWidget* parent, const ProcedureRunner& run);
 
 // Picture2, the preview page, 210 by 297 like the paper, with Command2 under it.

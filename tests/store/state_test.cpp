@@ -2,7 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
-#include "store/commands.h"
+#include "commands/procedures.h"
+#include "project/commands.h"
 #include "store/state.h"
 #include "support/session.h"
 
@@ -39,6 +40,7 @@ TEST(Capacity, StartUpDefaults) {
   ImageCanvas canvas;
   ScriptedDialogs dialogs;
   State s(canvas, dialogs);
+  connectControls(s);
   s.frame.gridadim = 7;
   Form_Load(s);
   EXPECT_EQ(s.projects.projeno, 0);

@@ -3,7 +3,7 @@
 #include <stdexcept>
 
 #include "commands/procedures.h"
-#include "store/commands.h"
+#include "project/commands.h"
 #include "triangles/commands.h"
 
 namespace tri {

@@ -3,9 +3,9 @@
 #include "canvas/selection.h"
 #include "platform/store.h"
 #include "platform/vbtext.h"
-#include "store/commands.h"
+#include "project/commands.h"
 #include "store/hole_lists.h"
-#include "store/project_commands.h"
+#include "project/project_commands.h"
 #include "store/project_format.h"
 #include "store/project_lists.h"
 

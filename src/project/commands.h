@@ -1,5 +1,4 @@
-// The commands and events of the project store: the window's start, resize and exit, and
-// opening and creating projects.
+// The window's start, resize and exit, and the commands that open and create projects.
 #pragma once
 
 #include "store/state.h"
@@ -16,8 +15,5 @@ void Mncikis_Click(State& s);
 void Mnprojeac_Click(State& s);
 // File, Create, Project (Ctrl+F)
 void Mnprolus_Click(State& s);
-
-// Lays out the window after a project is loaded (the window's own business).
-void layoutAfterLoad(State& s);
 
 }  // namespace tri

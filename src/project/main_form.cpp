@@ -1,6 +1,7 @@
+#include "canvas/frame.h"
 #include "canvas/replay.h"
-#include "store/commands.h"
-#include "store/project_commands.h"
+#include "project/commands.h"
+#include "project/project_commands.h"
 
 namespace tri {
 
@@ -25,11 +26,5 @@ void Form_Resize(State& s, int canvasWidth, int canvasHeight) {
 }
 
 void Mncikis_Click(State& s) { s.ui.closeRequested = true; }
-
-void layoutAfterLoad(State& s) {
-  // The layout sizes the window again, and a resize clears the drawing flags.
-  clearDrawingFlags(s);
-  if (s.ui.onLayout) s.ui.onLayout();
-}
 
 }  // namespace tri

@@ -7,9 +7,9 @@
 #include "canvas/replay.h"
 #include "platform/store.h"
 #include "platform/vbtext.h"
-#include "store/commands.h"
+#include "project/commands.h"
 #include "store/ondayaz.h"
-#include "store/project_commands.h"
+#include "project/project_commands.h"
 #include "store/project_format.h"
 
 namespace tri {

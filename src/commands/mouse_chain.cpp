@@ -1,3 +1,5 @@
+// The mouse chain of the canvas: every branch whose mode flag is on, in the fixed order.
+#include "commands/procedures.h"
 #include "platform/store.h"
 #include "platform/vbtext.h"
 #include "store/hole_lists.h"
