@@ -99,6 +99,14 @@ double Canvas::toPixelY(double y) const { return (y - top_) / height_ * pixelHei
 double Canvas::toWorldX(double px) const { return left_ + px / pixelWidth_ * width_; }
 double Canvas::toWorldY(double py) const { return top_ + py / pixelHeight_ * height_; }
 
+std::vector<std::string> Canvas::describeSinceClear() const {
+  auto clear = std::find_if(log_.rbegin(), log_.rend(),
+                            [](const CanvasOp& op) { return op.kind == CanvasOp::Kind::Clear; });
+  std::vector<std::string> lines;
+  for (auto op = clear.base(); op != log_.end(); ++op) lines.push_back(op->describe());
+  return lines;
+}
+
 void Canvas::cls() {
   if (logging_) record(operation(CanvasOp::Kind::Clear, {}));
   paintClear(backColor);

@@ -95,6 +95,8 @@ class Canvas {
   void setLogging(bool on) { logging_ = on; }
   const std::vector<CanvasOp>& log() const { return log_; }
   void clearLog() { log_.clear(); }
+  // The logged operations since the last clear, each in its described form.
+  std::vector<std::string> describeSinceClear() const;
 
  protected:
   virtual void paintResize(int pixelWidth, int pixelHeight) = 0;

@@ -62,6 +62,7 @@ class ScenarioRun {
     if (verb == "resize") return resize(words(rest));
     if (verb == "save-image") return saveImage(trim(rest));
     if (verb == "print-labels") return printLabels();
+    if (verb == "print-canvas") return printCanvas();
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
     throw BadStatement("unknown statement \"" + verb + "\"");
@@ -161,6 +162,10 @@ class ScenarioRun {
     }
   }
 
+  void printCanvas() {
+    for (const std::string& op : session_.canvas.describeSinceClear()) out_ << op << "\n";
+  }
+
   void expectLabel(const std::string& rest) {
     auto [number, text] = splitWord(rest);
     const int n = static_cast<int>(numberArg(number));
@@ -218,6 +223,19 @@ int runScenario(std::istream& script, const std::string& folder, std::ostream& o
     return kScenarioBadStatement;
   }
   return kScenarioDone;
+}
+
+std::string firstDifference(const std::string& actual, const std::string& expected) {
+  std::istringstream got(actual), want(expected);
+  std::string a, b;
+  for (int line = 1;; ++line) {
+    const bool moreGot = static_cast<bool>(std::getline(got, a));
+    const bool moreWant = static_cast<bool>(std::getline(want, b));
+    if (!moreGot && !moreWant) return "";
+    if (moreGot && moreWant && a == b) continue;
+    return "line " + std::to_string(line) + ": got " + (moreGot ? "\"" + a + "\"" : "the end") +
+           ", expected " + (moreWant ? "\"" + b + "\"" : "the end");
+  }
 }
 
 int runScenarioFile(const std::string& path, std::ostream& out, std::ostream& err) {

@@ -3,12 +3,15 @@
 //
 //   answer input TEXT | answer file PATH | answer button OK|Cancel|Yes|No | answer color R G B
 //   command NAME            select ComboN INDEX        click X Y BUTTON       move X Y
-//   resize W H              save-image PATH            print-labels
+//   resize W H              save-image PATH            print-labels      print-canvas
 //   expect-label N TEXT     expect-combo ComboN TEXT...   (entries after the title, '|'-separated)
 //
+// print-canvas prints every drawing operation on the canvas since its last clear, one a
+// line, in the canvas log's form (docs/scenarios.md).
 // PATHs are relative to the scenario file's folder; ${TMP} is a fresh folder of the run.
 // Exit codes: 0 done, 2 a bad statement, 3 a Fault, 4 a dialog without its answer,
-// 5 an expectation not met (answers left unused count as one).
+// 5 an expectation not met (answers left unused count as one), 6 printed output that is
+// not the expected output.
 #pragma once
 
 #include <iosfwd>
@@ -22,6 +25,7 @@ enum ScenarioExit {
   kScenarioFault = 3,
   kScenarioUnanswered = 4,
   kScenarioExpectation = 5,
+  kScenarioOutputDiffers = 6,
 };
 
 // Runs a scenario read from `script`; `folder` is where its relative paths start.
@@ -29,5 +33,8 @@ int runScenario(std::istream& script, const std::string& folder, std::ostream& o
                 std::ostream& err);
 
 int runScenarioFile(const std::string& path, std::ostream& out, std::ostream& err);
+
+// Where two outputs first differ: "line N: got ... expected ...", or "" when equal.
+std::string firstDifference(const std::string& actual, const std::string& expected);
 
 }  // namespace tri
