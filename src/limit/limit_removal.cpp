@@ -21,8 +21,8 @@ Recordset openDrawingRow(Database& db, const State& s) {
 
 void freeSlot(Recordset& row, int slot) {
   row.edit();
-  row.set(numbered("limdeg", slot), 0);
-  row.set(numbered("limten", slot), kFreeSlot);
+  row.set(numbered(field::limdeg, slot), 0);
+  row.set(numbered(field::limten, slot), kFreeSlot);
   row.update();
 }
 
@@ -33,7 +33,7 @@ void relistLimits(State& s, const Recordset& row) {
   const int d = s.drawing();
   for (int slot = 1; slot <= kLimitSlotsLoaded; ++slot) {
     if (!limitSlotInUse(row, slot)) continue;
-    const double value = row.number(numbered("limdeg", slot)) / 1000;
+    const double value = row.number(numbered(field::limdeg, slot)) / 1000;
     s.projects.limdeger(p, l, d, slot) = LimitTenor{value, numberText(value)};
     s.ui.combo1.addItem(numberText(value));
   }

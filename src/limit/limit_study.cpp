@@ -9,6 +9,7 @@
 #include "store/hole_lists.h"
 #include "store/ondayaz.h"
 #include "store/project_format.h"
+#include "triangles/records.h"
 #include "triangles/reserve_math.h"
 
 namespace tri {
@@ -19,11 +20,7 @@ constexpr int kMaxStudyTriangles = 999;
 
 // A triangle of the drawing as its rows hold it, in metres; holes by their numbers.
 struct StoredTriangle {
-  struct Vertex {
-    double x = 0, y = 0, cevhgir = 0, cevhcik = 0, sondgir = 0, sondcik = 0;
-    int hole = 0;
-  };
-  std::array<Vertex, 4> vertices;  // corners 1..3
+  std::array<VertexRow, 4> vertices;  // corners 1..3
   double area = 0;
 };
 
@@ -48,7 +45,7 @@ std::optional<std::string> askLimit(State& s) {
 
 std::vector<StoredTriangle> readTriangles(Recordset& drawing) {
   drawing.moveLast();
-  const int count = static_cast<int>(drawing.number("ucgensay"));
+  const int count = static_cast<int>(drawing.number(field::ucgensay));
   if (count > kMaxStudyTriangles) throwSubscript("limit study triangles", {count});
   std::vector<StoredTriangle> triangles(std::max(count, 0) + 1);
   drawing.moveFirst();
@@ -56,17 +53,10 @@ std::vector<StoredTriangle> readTriangles(Recordset& drawing) {
     drawing.moveNext();
     for (int k = 1; k <= 3; ++k) {
       if (k > 1) drawing.moveNext();
-      StoredTriangle::Vertex& v = triangles[t].vertices[k];
-      v.x = drawing.number("koordinat1") / 1000;
-      v.y = drawing.number("koordinat2") / 1000;
-      v.cevhgir = drawing.number("cevhgir") / 1000;
-      v.cevhcik = drawing.number("cevhcik") / 1000;
-      v.sondgir = drawing.number("sondgir") / 1000;
-      v.sondcik = drawing.number("sondcik") / 1000;
-      v.hole = static_cast<int>(drawing.number("say"));
+      triangles[t].vertices[k] = readVertexRow(drawing);
     }
     drawing.moveNext();
-    triangles[t].area = drawing.number("ill") / 1000;
+    triangles[t].area = drawing.number(field::ill) / 1000;
   }
   return triangles;
 }
@@ -80,9 +70,9 @@ Bounded<std::vector<Layer>> readAllLogs(State& s, Database& db) {
   log.moveFirst();
   StoredLogReader reader(log);
   for (int i = 1; i <= h.sondsay; ++i) {
-    h.eks[i] = log.number("eks") / 1000;
-    h.eye[i] = log.number("eye") / 1000;
-    h.isim[i] = log.text("isim");
+    h.eks[i] = log.number(field::eks) / 1000;
+    h.eye[i] = log.number(field::eye) / 1000;
+    h.isim[i] = log.text(field::isim);
     std::vector<Layer>& layers = logs[i];
     for (const StoredLayer& layer : reader.layersOfCurrentRow()) {
       layers.push_back({layer.lit, layer.ten / 1000, layer.yog / 1000, layer.uz / 1000});
@@ -112,17 +102,14 @@ LimitValues computeTriangle(const StoredTriangle& t, const Bounded<std::vector<L
                             const std::string& lithology, LimitTenorValue& limit) {
   CornerMeans corners;
   for (int k = 1; k <= 3; ++k) {
-    double s1 = 0, s2 = 0, s3 = 0, s4 = 0;
-    for (const Layer& layer : logs[t.vertices[k].hole]) {
-      if (!(limit.value() <= layer.ten) || layer.lit != lithology) continue;
-      corners.length[k] += layer.uz;
-      s3 += layer.uz * layer.yog;
-      s4 += layer.uz;
-      s1 += layer.uz * layer.yog * layer.ten;
-      s2 += layer.uz * layer.yog;
-    }
-    corners.tenor[k] = guardedRatio(s1, s2);
-    corners.density[k] = guardedRatio(s3, s4);
+    const std::vector<Layer>& layers = logs[t.vertices[k].hole];
+    // The limit as typed becomes a number at the first layer compared with it.
+    if (layers.empty()) continue;
+    CornerSums sums;
+    addOreLayers(sums, layers, lithology, limit.value());
+    corners.length[k] = sums.length;
+    corners.tenor[k] = guardedRatio(sums.s1, sums.s2);
+    corners.density[k] = guardedRatio(sums.s3, sums.s4);
   }
   LimitValues v;
   v.means = guardedTriangleMeans(corners);
@@ -134,33 +121,17 @@ LimitValues computeTriangle(const StoredTriangle& t, const Bounded<std::vector<L
 
 void appendStudyRows(Recordset& table, const State& s, const StoredTriangle& t, int number,
                      const LimitValues& v) {
-  for (int k = 1; k <= 3; ++k) {
-    const StoredTriangle::Vertex& vertex = t.vertices[k];
-    table.addNew();
-    table.set("koordinat1", ondayaz(vertex.x));
-    table.set("koordinat2", ondayaz(vertex.y));
-    table.set("say", vertex.hole);
-    table.set("cevhgir", ondayaz(vertex.cevhgir));
-    table.set("cevhcik", ondayaz(vertex.cevhcik));
-    table.set("sondgir", ondayaz(vertex.sondgir));
-    table.set("sondcik", ondayaz(vertex.sondcik));
-    table.update();
-  }
-  const Frame& f = s.frame;
-  table.addNew();
-  table.set("ilkuz", ondayaz(v.means.length));
-  table.set("ebxk", ondayaz(f.ebxk));
-  table.set("ekxk", ondayaz(f.ekxk));
-  table.set("ebyk", ondayaz(f.ebyk));
-  table.set("ekyk", ondayaz(f.ekyk));
-  table.set("genelrezerv", ondayaz(v.reserve / 1000));
-  table.set("geneltenor", ondayaz(v.means.tenor));
-  table.set("ucgensay", number);
-  table.set("genelyog", ondayaz(v.means.density));
-  table.set("ill", ondayaz(t.area));
-  table.set("kubaj", ondayaz(v.cubage / 1000));
-  table.set("tonaj", ondayaz(v.tonnage / 1000));
-  table.update();
+  for (int k = 1; k <= 3; ++k) appendVertexRow(table, t.vertices[k]);
+  SummaryRow summary;
+  summary.number = number;
+  summary.length = v.means.length;
+  summary.reserveKt = v.reserve / 1000;
+  summary.tenor = v.means.tenor;
+  summary.density = v.means.density;
+  summary.area = t.area;
+  summary.cubage = v.cubage / 1000;
+  summary.tonnage = v.tonnage / 1000;
+  appendSummaryRow(table, s.frame, summary);
 }
 
 // Writes the limit into the first free slot after the drawing's last one, and into the
@@ -172,24 +143,24 @@ int recordLimitSlot(State& s, Database& db, const std::string& tableName,
   const std::string drawing = s.ui.combo2.text();
   Recordset table = db.openTable(s.ui.combo4.text());
   table.moveLast();
-  const int drawings = static_cast<int>(table.number("tsay"));
+  const int drawings = static_cast<int>(table.number(field::tsay));
   table.moveFirst();
   table.moveNext();
-  for (int row = 1; row < drawings && table.text("cizim") != drawing; ++row) table.moveNext();
-  const int d = static_cast<int>(table.number("tsay"));
+  for (int row = 1; row < drawings && table.text(field::cizim) != drawing; ++row) table.moveNext();
+  const int d = static_cast<int>(table.number(field::tsay));
 
   const int k = s.projects.limsay.get(p, l, d) + 1;
   s.projects.limdeger.checkIndex(p, l, d, k);
   s.projects.limsay(p, l, d) = k;
   table.edit();
-  table.set(numbered("limten", k), tableName);
-  table.set(numbered("limdeg", k), ondayaz(value));
+  table.set(numbered(field::limten, k), tableName);
+  table.set(numbered(field::limdeg, k), ondayaz(value));
   table.update();
 
   table.moveFirst();
   table.moveNext();
   for (int row = 1; row <= drawings; ++row, table.moveNext()) {
-    if (table.text("cizim") == s.projects.cizimad.get(p, l, d)) {
+    if (table.text(field::cizim) == s.projects.cizimad.get(p, l, d)) {
       s.projects.limdeger(p, l, d, k) = LimitTenor{value, limit.text()};
     }
   }
@@ -212,7 +183,7 @@ void Mnlimekle_Click(State& s) {
   {
     Recordset table = db.openTable(drawing);
     table.moveFirst();
-    s.carry.kal = table.number("kal") / 1000;
+    s.carry.kal = table.number(field::kal) / 1000;
     s.ui.hide("Picture1");
     triangles = readTriangles(table);
   }
@@ -229,7 +200,7 @@ void Mnlimekle_Click(State& s) {
   {
     Recordset table = db.openTable(tableName);
     table.addNew();
-    table.set("ucgensay", 0);
+    table.set(field::ucgensay, 0);
     table.update();
     for (size_t t = 1; t < triangles.size(); ++t) {
       appendStudyRows(table, s, triangles[t], static_cast<int>(t), values[t]);

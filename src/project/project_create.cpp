@@ -161,13 +161,13 @@ StoredHole storedHole(const Holes& h, int i, int layers) {
 // its log in the slot after the last layer.
 void appendHoleRow(Recordset& rs, const Holes& h, int i, const StoredHole& stored) {
   rs.addNew();
-  rs.set("eks", stored.eks);
-  rs.set("eye", stored.eye);
-  rs.set("songir", stored.songir);
-  rs.set("cevgir", stored.cevgir);
-  rs.set("cevcik", stored.cevcik);
-  rs.set("soncik", stored.soncik);
-  rs.set("isim", h.isim[i]);
+  rs.set(field::eks, stored.eks);
+  rs.set(field::eye, stored.eye);
+  rs.set(field::songir, stored.songir);
+  rs.set(field::cevgir, stored.cevgir);
+  rs.set(field::cevcik, stored.cevcik);
+  rs.set(field::soncik, stored.soncik);
+  rs.set(field::isim, h.isim[i]);
   for (int k = 1; k <= static_cast<int>(stored.layers.size()); ++k) {
     const std::array<double, 4>& layer = stored.layers[k - 1];
     rs.set(layerField(LayerField::Lit, k), h.lit(i, k));
@@ -186,7 +186,7 @@ void endHoleRow(Recordset& rs, int layers) {
 
 void appendEndMark(Recordset& rs) {
   rs.addNew();
-  rs.set("eks", 0);
+  rs.set(field::eks, 0);
   rs.update();
 }
 
@@ -208,7 +208,7 @@ void writeLog(Database& db, const Holes& h, const ReadHoles& read,
               const std::vector<StoredHole>& stored, int lithologies) {
   Recordset log = db.openTable(kLogTable);
   std::vector<std::string> marks;
-  for (int k = 1; k <= lithologies; ++k) marks.push_back(numbered("deg", k));
+  for (int k = 1; k <= lithologies; ++k) marks.push_back(numbered(field::deg, k));
   for (int i = 1; i <= h.sondsay; ++i) {
     appendHoleRow(log, h, i, stored[i]);
     for (const std::string& mark : marks) log.set(mark, kMarkedNo);
@@ -225,15 +225,15 @@ void writeLithologies(Database& db, const State& s, int p) {
     Recordset list = db.openTable(kLithologyListTable);
     for (int l = 1; l <= count; ++l) {
       list.addNew();
-      list.set("isim", s.projects.litad.get(p, l));
-      list.set("litno", l);
+      list.set(field::isim, s.projects.litad.get(p, l));
+      list.set(field::litno, l);
       list.update();
     }
   }
   for (int l = 1; l <= count; ++l) {
     Recordset table = db.openTable(s.projects.litad.get(p, l));
     table.addNew();
-    table.set("tsay", 0);
+    table.set(field::tsay, 0);
     table.update();
   }
 }
@@ -241,8 +241,8 @@ void writeLithologies(Database& db, const State& s, int p) {
 void writePolHeader(Database& db) {
   Recordset pol = db.openTable(kPolTable);
   pol.addNew();
-  pol.set("polsay", 0);
-  pol.set("polsil", 0);
+  pol.set(field::polsay, 0);
+  pol.set(field::polsil, 0);
   pol.update();
 }
 

@@ -83,9 +83,9 @@ void loadHoleLogs(State& s, Database& db) {
   log.moveFirst();
   StoredLogReader logs(log);
   for (int i = 1; i <= h.sondsay; ++i) {
-    h.eks[i] = log.number("eks") / 1000;
-    h.eye[i] = log.number("eye") / 1000;
-    h.isim[i] = log.text("isim");
+    h.eks[i] = log.number(field::eks) / 1000;
+    h.eye[i] = log.number(field::eye) / 1000;
+    h.isim[i] = log.text(field::isim);
     int k = 0;
     for (const StoredLayer& layer : logs.layersOfCurrentRow(true)) {
       ++k;

@@ -13,8 +13,8 @@ int countHoles(Recordset& rs, HoleListEnd end) {
   rs.moveFirst();
   int n = 1;
   for (; n <= kMaxHoles; ++n) {
-    if (end == HoleListEnd::ZeroXOrPointName && isPointName(rs.text("isim"))) break;
-    if (rs.number("eks") == 0) break;
+    if (end == HoleListEnd::ZeroXOrPointName && isPointName(rs.text(field::isim))) break;
+    if (rs.number(field::eks) == 0) break;
     rs.moveNext();
   }
   return n - 1;
@@ -62,8 +62,8 @@ void clearHoleValues(Holes& h) {
 }
 
 void readCoordinates(Holes& h, const Recordset& rs, int i) {
-  h.eks[i] = rs.number("eks") / 1000;
-  h.eye[i] = rs.number("eye") / 1000;
+  h.eks[i] = rs.number(field::eks) / 1000;
+  h.eye[i] = rs.number(field::eye) / 1000;
 }
 
 // One walk both counts the holes and reads them: the rows read are those the count
@@ -74,8 +74,8 @@ void walkHoles(State& s, Recordset& rs, HoleListEnd end, ReadHole readHole) {
   rs.moveFirst();
   int n = 1;
   for (; n <= kMaxHoles; ++n) {
-    if (end == HoleListEnd::ZeroXOrPointName && isPointName(rs.text("isim"))) break;
-    if (rs.number("eks") == 0) break;
+    if (end == HoleListEnd::ZeroXOrPointName && isPointName(rs.text(field::isim))) break;
+    if (rs.number(field::eks) == 0) break;
     readHole(n);
     rs.moveNext();
   }
@@ -89,7 +89,7 @@ void loadHoleCoordinates(State& s, Recordset& rs, HoleListEnd end) {
   clearCoordinates(h);
   walkHoles(s, rs, end, [&](int i) {
     readCoordinates(h, rs, i);
-    h.isim[i] = rs.text("isim");
+    h.isim[i] = rs.text(field::isim);
   });
 }
 
@@ -99,11 +99,11 @@ void loadHoleRecords(State& s, Recordset& rs, HoleListEnd end) {
   clearHoleValues(h);
   walkHoles(s, rs, end, [&](int i) {
     readCoordinates(h, rs, i);
-    h.isim[i] = rs.text("isim");
-    h.songir[i] = rs.number("songir") / 1000;
-    h.cevgir[i] = rs.number("cevgir") / 1000;
-    h.cevcik[i] = rs.number("cevcik") / 1000;
-    h.soncik[i] = rs.number("soncik") / 1000;
+    h.isim[i] = rs.text(field::isim);
+    h.songir[i] = rs.number(field::songir) / 1000;
+    h.cevgir[i] = rs.number(field::cevgir) / 1000;
+    h.cevcik[i] = rs.number(field::cevcik) / 1000;
+    h.soncik[i] = rs.number(field::soncik) / 1000;
   });
 }
 

@@ -30,7 +30,7 @@ void drawNetwork(State& s, Recordset& table) {
     // The summary row's tenor is read too, though this repaint does not use it: a summary
     // row without it fails here.
     table.moveNext();
-    table.number("geneltenor");
+    table.number(field::geneltenor);
     c.line(v.x[3], v.y[3], v.x[2], v.y[2], 0);
     c.line(v.x[3], v.y[3], v.x[1], v.y[1], 0);
     c.line(v.x[1], v.y[1], v.x[2], v.y[2], 0);

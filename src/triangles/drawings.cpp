@@ -31,9 +31,9 @@ void createDrawingTable(State& s, const std::string& name) {
   Database db = Database::open(s.projectPath());
   Recordset table = db.openTable(name);
   table.addNew();
-  table.set("ucgensay", 0);
-  table.set("kal", ondayaz(s.carry.kal));
-  table.set("bsy", ondayaz(s.carry.bsy));
+  table.set(field::ucgensay, 0);
+  table.set(field::kal, ondayaz(s.carry.kal));
+  table.set(field::bsy, ondayaz(s.carry.bsy));
   table.update();
 }
 
@@ -44,12 +44,12 @@ int registerDrawing(State& s, const std::string& name) {
   Database db = Database::open(s.projectPath());
   Recordset table = db.openTable(s.ui.combo4.text());
   table.moveLast();
-  const int number = static_cast<int>(table.number("tsay")) + 1;
+  const int number = static_cast<int>(table.number(field::tsay)) + 1;
   s.projects.cizimsay(p, l) = number;
   s.projects.cizimad(p, l, number) = name;
   table.addNew();
-  table.set("cizim", name);
-  table.set("tsay", number);
+  table.set(field::cizim, name);
+  table.set(field::tsay, number);
   table.update();
   return number;
 }
@@ -59,7 +59,7 @@ void renumberDrawings(Recordset& table, int count) {
   table.moveFirst();
   for (int i = 0; i <= count; ++i) {
     table.edit();
-    table.set("tsay", i);
+    table.set(field::tsay, i);
     table.update();
     table.moveNext();
   }
@@ -132,7 +132,7 @@ void Mncizisil_Click(State& s) {
       table.move(s.drawing());
       table.remove();
       table.moveLast();
-      s.projects.cizimsay(p, l) = static_cast<int>(table.number("tsay")) - 1;
+      s.projects.cizimsay(p, l) = static_cast<int>(table.number(field::tsay)) - 1;
       renumberDrawings(table, s.projects.cizimsay.get(p, l));
     }
     dropDrawingTables(s, db, drawing);

@@ -117,7 +117,7 @@ void pick(State& s, Recordset& drawing, float x, float y) {
       break;
   }
   drawing.moveLast();
-  appendVertexRow(drawing, h, hole);
+  appendVertexRow(drawing, vertexOfHole(h, hole));
   c.drawWidth = 5;
   c.pset(h.eks[hole], h.eye[hole], dotColor(e.colorIndex));
 }
@@ -161,8 +161,8 @@ void readBackCorners(State& s, Recordset& drawing, int number) {
   moveToFirstVertex(drawing, number);
   for (int k = 1; k <= 3; ++k) {
     if (k > 1) drawing.moveNext();
-    e.readX[k] = drawing.number("koordinat1") / 1000;
-    e.readY[k] = drawing.number("koordinat2") / 1000;
+    e.readX[k] = drawing.number(field::koordinat1) / 1000;
+    e.readY[k] = drawing.number(field::koordinat2) / 1000;
     e.cornerX(k, number) = e.readX[k];
     e.cornerY(k, number) = e.readY[k];
   }
@@ -190,7 +190,7 @@ void completeTriangle(State& s, Database& db) {
     Recordset drawing = db.openTable(s.ui.combo2.text());
     drawing.moveLast();
     drawing.move(-3);
-    e.ucgenno = drawing.number("ucgensay") + 1;
+    e.ucgenno = drawing.number(field::ucgensay) + 1;
     const int number = wholeIndex(e.ucgenno);
     s.canvas.foreColor = 0;
     s.canvas.drawWidth = 1;
@@ -199,7 +199,7 @@ void completeTriangle(State& s, Database& db) {
     moveToFirstVertex(drawing, number);
     for (int k = 1; k <= 3; ++k) {
       if (k > 1) drawing.moveNext();
-      holes[k] = static_cast<int>(drawing.number("say"));
+      holes[k] = static_cast<int>(drawing.number(field::say));
     }
   }
   finishTriangle(s, db, holes);

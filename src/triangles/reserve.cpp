@@ -39,17 +39,11 @@ CornerLogs readCornerLogs(Database& db, const CornerHoles& holes) {
 CornerMeans baseCornerMeans(const CornerLogs& logs, const std::string& lithology) {
   CornerMeans m;
   for (int k = 1; k <= 3; ++k) {
-    double s1 = 0, s2 = 0, s3 = 0, s4 = 0;
-    for (const Layer& layer : logs[k]) {
-      if (layer.lit != lithology) continue;
-      m.length[k] += layer.uz;
-      s1 += layer.uz * layer.yog * layer.ten;
-      s2 += layer.uz * layer.yog;
-      s3 += layer.uz * layer.yog;
-      s4 += layer.uz;
-    }
-    m.tenor[k] = divide(s1, s2, "tenor of a corner hole without ore of the lithology");
-    m.density[k] = divide(s3, s4, "density of a corner hole without ore of the lithology");
+    CornerSums sums;
+    addOreLayers(sums, logs[k], lithology);
+    m.length[k] = sums.length;
+    m.tenor[k] = divide(sums.s1, sums.s2, "tenor of a corner hole without ore of the lithology");
+    m.density[k] = divide(sums.s3, sums.s4, "density of a corner hole without ore of the lithology");
   }
   return m;
 }
@@ -64,15 +58,11 @@ double shoelaceArea(const Entry& e) {
 // The extent of the triangle from its read-back corners, in chains where a later test is
 // only made when the one before did not replace the value. The rounded x3 also stands in
 // the chain of the greatest y: that is the rule.
-struct Extent {
-  double bx = 0, kx = 0, by = 0, ky = 0;
-};
-
-Extent triangleExtent(const Entry& e) {
+TriangleExtent triangleExtent(const Entry& e) {
   const double x1 = e.readX[1], x2 = e.readX[2], x3 = e.readX[3];
   const double y1 = e.readY[1], y2 = e.readY[2], y3 = e.readY[3];
   const double roundedX3 = roundHalfEven(x3, 0);
-  Extent x;
+  TriangleExtent x;
   x.bx = x1;
   if (x.bx < roundedX3) {
     x.bx = roundedX3;
@@ -100,39 +90,6 @@ Extent triangleExtent(const Entry& e) {
   return x;
 }
 
-// The values of one summary row, before ondayaz.
-struct Summary {
-  double length = 0;
-  double reserveKt = 0;
-  double tenor = 0;
-  double density = 0;
-  double area = 0;
-  double cubage = 0;
-  double tonnage = 0;
-};
-
-void appendSummaryRow(Recordset& table, const State& s, const Summary& v, const Extent& x) {
-  const Frame& f = s.frame;
-  table.addNew();
-  table.set("ilkuz", ondayaz(v.length));
-  table.set("ebxk", ondayaz(f.ebxk));
-  table.set("ekxk", ondayaz(f.ekxk));
-  table.set("ebyk", ondayaz(f.ebyk));
-  table.set("ekyk", ondayaz(f.ekyk));
-  table.set("genelrezerv", ondayaz(v.reserveKt));
-  table.set("geneltenor", ondayaz(v.tenor));
-  table.set("ortucgen1", ondayaz(std::abs(x.kx - x.bx)));
-  table.set("ortucgen2", ondayaz(std::abs(x.by - x.ky)));
-  table.set("ortucgen11", ondayaz(x.kx));
-  table.set("ortucgen21", ondayaz(x.ky));
-  table.set("ucgensay", s.entry.ucgenno);
-  table.set("genelyog", ondayaz(v.density));
-  table.set("ill", ondayaz(v.area));
-  table.set("kubaj", ondayaz(v.cubage));
-  table.set("tonaj", ondayaz(v.tonnage));
-  table.update();
-}
-
 // The corner means above a limit tenor, guarded against empty corners. The density sums
 // S3' and S4' are the run's: they go on adding up by corner position and are never
 // cleared, so earlier triangles weigh on a later triangle's limit density.
@@ -141,17 +98,15 @@ CornerMeans limitCornerMeans(State& s, const CornerLogs& logs, const std::string
   CornerMeans m;
   Reserve& r = s.reserve;
   for (int k = 1; k <= 3; ++k) {
-    double s1 = 0, s2 = 0;
-    for (const Layer& layer : logs[k]) {
-      if (layer.lit != lithology || !(layer.ten >= limit)) continue;
-      m.length[k] += layer.uz;
-      s1 += layer.uz * layer.yog * layer.ten;
-      s2 += layer.uz * layer.yog;
-      r.limitS3[k] += layer.uz * layer.yog;
-      r.limitS4[k] += layer.uz;
-    }
-    m.tenor[k] = guardedRatio(s1, s2);
-    m.density[k] = guardedRatio(r.limitS3[k], r.limitS4[k]);
+    CornerSums sums;
+    sums.s3 = r.limitS3[k];
+    sums.s4 = r.limitS4[k];
+    addOreLayers(sums, logs[k], lithology, limit);
+    r.limitS3[k] = sums.s3;
+    r.limitS4[k] = sums.s4;
+    m.length[k] = sums.length;
+    m.tenor[k] = guardedRatio(sums.s1, sums.s2);
+    m.density[k] = guardedRatio(sums.s3, sums.s4);
   }
   return m;
 }
@@ -163,7 +118,7 @@ long nextLimitSlot(const State& s, int p, int l, int d, long slot) {
 }
 
 void appendToLimitTables(State& s, Database& db, const CornerLogs& logs, const CornerHoles& holes,
-                         double area, const Extent& extent) {
+                         double area, const TriangleExtent& extent) {
   const int p = s.project();
   const int l = s.lithology();
   const int d = s.drawing();
@@ -175,10 +130,12 @@ void appendToLimitTables(State& s, Database& db, const CornerLogs& logs, const C
     slot = nextLimitSlot(s, p, l, d, slot);
     const LimitTenor& limit = s.projects.limdeger.get(p, l, d, slot);
     Recordset table = db.openTable(limitTableName(limit.text, drawing));
-    for (int k = 1; k <= 3; ++k) appendVertexRow(table, s.holes, holes[k]);
+    for (int k = 1; k <= 3; ++k) appendVertexRow(table, vertexOfHole(s.holes, holes[k]));
     const CornerMeans corners = limitCornerMeans(s, logs, lithology, limit.value);
     const TriangleMeans means = guardedTriangleMeans(corners);
-    Summary v;
+    SummaryRow v;
+    v.number = s.entry.ucgenno;
+    v.extent = extent;
     v.length = means.length;
     v.tenor = means.tenor;
     v.density = means.density;
@@ -186,7 +143,7 @@ void appendToLimitTables(State& s, Database& db, const CornerLogs& logs, const C
     v.cubage = means.length * area / 1000;
     v.tonnage = means.length * area * means.density / 1000;
     v.reserveKt = (means.length * area) * ((means.tenor / 100) * means.density) / 1000;
-    appendSummaryRow(table, s, v, extent);
+    appendSummaryRow(table, s.frame, v);
   }
 }
 
@@ -211,14 +168,16 @@ void finishTriangle(State& s, Database& db, const CornerHoles& holes) {
   r.rezervoran[t] =
       divide(r.rezervler[t], perTriangle, "reserve ratio of a triangle with no reserve");
 
-  const Extent extent = triangleExtent(e);
+  const TriangleExtent extent = triangleExtent(e);
   r.ucgenbx[t] = extent.bx;
   r.ucgenkx[t] = extent.kx;
   r.ucgenby[t] = extent.by;
   r.ucgenky[t] = extent.ky;
 
   const double volume = means.length * area;
-  Summary v;
+  SummaryRow v;
+  v.number = e.ucgenno;
+  v.extent = extent;
   v.length = means.length;
   v.reserveKt = r.rezervler[t] / 1000;
   v.tenor = means.tenor;
@@ -231,7 +190,7 @@ void finishTriangle(State& s, Database& db, const CornerHoles& holes) {
   WriteBatch batch = db.beginBatch();
   {
     Recordset drawing = db.openTable(s.ui.combo2.text());
-    appendSummaryRow(drawing, s, v, extent);
+    appendSummaryRow(drawing, s.frame, v);
   }
   appendToLimitTables(s, db, logs, holes, area, extent);
   batch.commit();

@@ -4,6 +4,18 @@
 
 namespace tri {
 
+void addOreLayers(CornerSums& sums, const std::vector<Layer>& layers,
+                  const std::string& lithology, std::optional<double> cutoff) {
+  for (const Layer& layer : layers) {
+    if (layer.lit != lithology || (cutoff && !(layer.ten >= *cutoff))) continue;
+    sums.length += layer.uz;
+    sums.s1 += layer.uz * layer.yog * layer.ten;
+    sums.s2 += layer.uz * layer.yog;
+    sums.s3 += layer.uz * layer.yog;
+    sums.s4 += layer.uz;
+  }
+}
+
 double meanOreLength(const std::array<double, 4>& length) {
   if (length[1] != 0 && length[2] != 0 && length[3] != 0) {
     return (length[1] + length[2] + length[3]) / 3;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,22 @@ struct Layer {
   double yog = 0;
   double uz = 0;
 };
+
+// The running sums of a corner's ore layers: the ore length, and the weights of its tenor
+// (S1 = sum of uz x yog x ten, S2 = sum of uz x yog) and of its density (S3 = sum of
+// uz x yog, S4 = sum of uz).
+struct CornerSums {
+  double length = 0;
+  double s1 = 0;
+  double s2 = 0;
+  double s3 = 0;
+  double s4 = 0;
+};
+
+// Adds to `sums`, in layer order, every layer whose lithology is `lithology` and, when a
+// cut-off is given, whose tenor is at or above it. The sums go on from what they hold.
+void addOreLayers(CornerSums& sums, const std::vector<Layer>& layers,
+                  const std::string& lithology, std::optional<double> cutoff = std::nullopt);
 
 // Per corner 1..3: ore length (the sum of the ore layers' lengths), tenor (weighted by
 // length times density) and density (weighted by length).
