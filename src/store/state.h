@@ -13,6 +13,11 @@
 #include "platform/controls.h"
 #include "platform/dialogs.h"
 #include "platform/sheet.h"
+#include "store/network_state.h"
+#include "store/output_state.h"
+#include "store/production_state.h"
+#include "store/scan_state.h"
+#include "store/view_state.h"
 
 namespace tri {
 
@@ -235,6 +240,11 @@ struct State {
   Markers markers;
   DialogColors colors;
   Layout layout;
+  Network network;
+  Views views;
+  Scan scan;
+  Production production;
+  Output output;
 
   // The selected project (Combo5), lithology (Combo4) and drawing (Combo2).
   int project() const { return ui.combo5.listIndex(); }
