@@ -5,8 +5,8 @@
 #include <filesystem>
 
 #include "bench_data.h"
-#include "sqlite_floor.h"
 #include "project/commands.h"
+#include "sqlite_floor.h"
 
 namespace tri::bench {
 namespace {

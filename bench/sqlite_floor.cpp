@@ -112,15 +112,12 @@ RawTable RawDatabase::copyTable(const std::string& name) {
     Row row;
     for (int c = 0; c < n; ++c) {
       switch (sqlite3_column_type(stmt.get(), c)) {
-        case SQLITE_INTEGER:
-          row.emplace_back(sqlite3_column_int64(stmt.get(), c));
-          break;
+        case SQLITE_INTEGER: row.emplace_back(sqlite3_column_int64(stmt.get(), c)); break;
         case SQLITE_TEXT:
           row.emplace_back(
               std::string(reinterpret_cast<const char*>(sqlite3_column_text(stmt.get(), c))));
           break;
-        default:
-          row.emplace_back(std::monostate{});
+        default: row.emplace_back(std::monostate{});
       }
     }
     table.rows.push_back(std::move(row));

@@ -3,8 +3,8 @@
 #include <benchmark/benchmark.h>
 
 #include "bench_data.h"
-#include "sqlite_floor.h"
 #include "commands/procedures.h"
+#include "sqlite_floor.h"
 #include "triangles/commands.h"
 
 namespace tri::bench {

@@ -1,7 +1,7 @@
 # Shared steps of scripts/run and scripts/test: install what is missing, configure, build.
 
 PACKAGES=(cmake g++ make pkg-config libsqlite3-dev libfreexl-dev qt6-base-dev libgl-dev
-          libgtest-dev libbenchmark-dev xvfb xauth fonts-dejavu-core)
+          libgtest-dev libbenchmark-dev xvfb xauth fonts-dejavu-core clang-format)
 
 root_dir="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 
@@ -26,4 +26,16 @@ configure_and_build() {
   shift 2
   cmake -S "$root_dir" -B "$dir" -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@" >/dev/null
   cmake --build "$dir" --parallel "$(nproc)" ${target:+--target "$target"}
+}
+
+# Fails, naming the files, when a C++ file differs from what clang-format makes of it.
+check_formatting() {
+  local unformatted
+  unformatted=$(cd "$root_dir" && git ls-files '*.cpp' '*.h' |
+    xargs clang-format --dry-run --Werror 2>&1 | grep -o '^[^:]*\.\(cpp\|h\)' | sort -u || true)
+  if [ -n "$unformatted" ]; then
+    echo "These files are not formatted (run: cmake --build build --target format):"
+    echo "$unformatted"
+    return 1
+  fi
 }

@@ -37,8 +37,9 @@ void replayFlags(State& s) {
 }
 
 void replayTail(State& s) {
-  const auto tail = std::find_if(s.replayRows.begin(), s.replayRows.end(),
-                                 [](const ReplayRow& row) { return row.flag == &Flags::modyuzdeten; });
+  const auto tail =
+      std::find_if(s.replayRows.begin(), s.replayRows.end(),
+                   [](const ReplayRow& row) { return row.flag == &Flags::modyuzdeten; });
   std::for_each(tail, s.replayRows.end(), [&s](const ReplayRow& row) { runRow(s, row); });
 }
 

@@ -14,12 +14,12 @@ namespace tri {
 // commands; a parent comes before its children. The procedure of an item is its name
 // followed by "_Click"; a submenu with a procedure runs it as it opens.
 struct MenuItem {
-  const char* name;     // the item's name, as the logic enables and checks it
-  const char* parent;   // "" for a menu of the bar
-  const char* caption;  // with its & access key
+  const char* name;      // the item's name, as the logic enables and checks it
+  const char* parent;    // "" for a menu of the bar
+  const char* caption;   // with its & access key
   const char* shortcut;  // "" for none
-  Procedure procedure;  // nullptr for a heading, or for a command not in this program yet
-  bool checkable;       // the logic sets a check mark on it
+  Procedure procedure;   // nullptr for a heading, or for a command not in this program yet
+  bool checkable;        // the logic sets a check mark on it
 };
 
 const std::vector<MenuItem>& menuItems();

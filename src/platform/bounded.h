@@ -73,7 +73,8 @@ class Bounded2 {
   // Rows filled one entry after another grow in steps, not by one entry each time; entries
   // never written read as the empty value either way.
   void grow(std::vector<T>& row, long j) {
-    const size_t wanted = std::max<size_t>(j + 1, std::min<size_t>(2 * row.size() + 8, upper2_ + 1));
+    const size_t wanted =
+        std::max<size_t>(j + 1, std::min<size_t>(2 * row.size() + 8, upper2_ + 1));
     row.resize(wanted);
   }
   void check(long i, long j) const {

@@ -41,8 +41,7 @@ std::string circleText(const CanvasOp& op) {
 
 std::string CanvasOp::describe() const {
   switch (kind) {
-    case Kind::Clear:
-      return "cls";
+    case Kind::Clear: return "cls";
     case Kind::Line:
       return "line " + numbersText(at) + " " + colorText(color) + " width=" + std::to_string(width);
     case Kind::Box:
@@ -50,12 +49,9 @@ std::string CanvasOp::describe() const {
     case Kind::Point:
       return "point " + numbersText(at) + " " + colorText(color) +
              " width=" + std::to_string(width);
-    case Kind::Circle:
-      return circleText(*this);
-    case Kind::Text:
-      return "text " + numbersText(at) + " \"" + text + "\" " + colorText(color);
-    case Kind::FillTriangle:
-      return "filltriangle " + numbersText(at) + " " + colorText(color);
+    case Kind::Circle: return circleText(*this);
+    case Kind::Text: return "text " + numbersText(at) + " \"" + text + "\" " + colorText(color);
+    case Kind::FillTriangle: return "filltriangle " + numbersText(at) + " " + colorText(color);
   }
   return "?";
 }

@@ -103,8 +103,8 @@ class Canvas {
   virtual void paintClear(Color background) = 0;
   virtual void paintLine(double px1, double py1, double px2, double py2, Color color,
                          int width) = 0;
-  virtual void paintBox(double px1, double py1, double px2, double py2, Color color,
-                        bool filled, int width) = 0;
+  virtual void paintBox(double px1, double py1, double px2, double py2, Color color, bool filled,
+                        int width) = 0;
   virtual void paintPoint(double px, double py, Color color, int width) = 0;
   virtual void paintEllipse(double cx, double cy, double rx, double ry, Color color, int width,
                             bool filled, Color fill) = 0;

@@ -26,13 +26,12 @@ class ImageCanvas : public Canvas {
  protected:
   void paintResize(int pixelWidth, int pixelHeight) override;
   void paintClear(Color background) override;
-  void paintLine(double px1, double py1, double px2, double py2, Color color,
-                 int width) override;
+  void paintLine(double px1, double py1, double px2, double py2, Color color, int width) override;
   void paintBox(double px1, double py1, double px2, double py2, Color color, bool filled,
                 int width) override;
   void paintPoint(double px, double py, Color color, int width) override;
-  void paintEllipse(double cx, double cy, double rx, double ry, Color color, int width,
-                    bool filled, Color fill) override;
+  void paintEllipse(double cx, double cy, double rx, double ry, Color color, int width, bool filled,
+                    Color fill) override;
   void paintText(double px, double py, const std::string& text, Color color,
                  int pointSize) override;
   void paintPolygon(const int* xy, int points, Color color) override;

@@ -25,13 +25,10 @@ namespace tri {
 
 std::string Cell::valueText() const {
   switch (kind) {
-    case Kind::Number:
-      return numberText(number);
+    case Kind::Number: return numberText(number);
     case Kind::Text:
-    case Kind::Date:
-      return text;
-    case Kind::Empty:
-      return {};
+    case Kind::Date: return text;
+    case Kind::Empty: return {};
   }
   return {};
 }
@@ -40,50 +37,28 @@ namespace {
 
 std::string freexlReason(int code) {
   switch (code) {
-    case FREEXL_FILE_NOT_FOUND:
-      return "the file does not exist or cannot be read";
-    case FREEXL_INSUFFICIENT_MEMORY:
-      return "not enough memory to read it";
-    case FREEXL_INVALID_CFBF_HEADER:
-      return "it is not an .xls workbook (no compound-file header)";
-    case FREEXL_CFBF_READ_ERROR:
-      return "the file is damaged or too short (read error)";
-    case FREEXL_CFBF_SEEK_ERROR:
-      return "the file is damaged or cut short (seek error)";
-    case FREEXL_CFBF_INVALID_SIGNATURE:
-      return "it is not an .xls workbook (unknown signature)";
-    case FREEXL_CFBF_INVALID_SECTOR_SIZE:
-      return "the file header is damaged (bad sector size)";
-    case FREEXL_CFBF_EMPTY_FAT_CHAIN:
-      return "the file header is damaged (empty sector chain)";
-    case FREEXL_CFBF_ILLEGAL_FAT_ENTRY:
-      return "the file's sector table is damaged";
-    case FREEXL_BIFF_INVALID_BOF:
-      return "the workbook records are damaged";
-    case FREEXL_BIFF_INVALID_SST:
-      return "the table of shared texts is damaged";
-    case FREEXL_BIFF_ILLEGAL_SST_INDEX:
-      return "a text cell refers to a missing shared text";
-    case FREEXL_BIFF_WORKBOOK_NOT_FOUND:
-      return "the file holds no workbook";
-    case FREEXL_BIFF_ILLEGAL_SHEET_INDEX:
-      return "the workbook has no such sheet";
-    case FREEXL_BIFF_UNSELECTED_SHEET:
-      return "no sheet is selected";
-    case FREEXL_INVALID_CHARACTER:
-      return "a text holds a character outside its code page";
-    case FREEXL_UNSUPPORTED_CHARSET:
-      return "the workbook's code page is not supported";
-    case FREEXL_ILLEGAL_CELL_ROW_COL:
-      return "a cell lies outside the sheet";
-    case FREEXL_ILLEGAL_RK_VALUE:
-      return "a number cell is damaged";
-    case FREEXL_INVALID_MINI_STREAM:
-      return "the file's small-data stream is damaged";
-    case FREEXL_CFBF_ILLEGAL_MINI_FAT_ENTRY:
-      return "the file's small-data sector table is damaged";
-    case FREEXL_CRAFTED_FILE:
-      return "the file is badly damaged";
+    case FREEXL_FILE_NOT_FOUND: return "the file does not exist or cannot be read";
+    case FREEXL_INSUFFICIENT_MEMORY: return "not enough memory to read it";
+    case FREEXL_INVALID_CFBF_HEADER: return "it is not an .xls workbook (no compound-file header)";
+    case FREEXL_CFBF_READ_ERROR: return "the file is damaged or too short (read error)";
+    case FREEXL_CFBF_SEEK_ERROR: return "the file is damaged or cut short (seek error)";
+    case FREEXL_CFBF_INVALID_SIGNATURE: return "it is not an .xls workbook (unknown signature)";
+    case FREEXL_CFBF_INVALID_SECTOR_SIZE: return "the file header is damaged (bad sector size)";
+    case FREEXL_CFBF_EMPTY_FAT_CHAIN: return "the file header is damaged (empty sector chain)";
+    case FREEXL_CFBF_ILLEGAL_FAT_ENTRY: return "the file's sector table is damaged";
+    case FREEXL_BIFF_INVALID_BOF: return "the workbook records are damaged";
+    case FREEXL_BIFF_INVALID_SST: return "the table of shared texts is damaged";
+    case FREEXL_BIFF_ILLEGAL_SST_INDEX: return "a text cell refers to a missing shared text";
+    case FREEXL_BIFF_WORKBOOK_NOT_FOUND: return "the file holds no workbook";
+    case FREEXL_BIFF_ILLEGAL_SHEET_INDEX: return "the workbook has no such sheet";
+    case FREEXL_BIFF_UNSELECTED_SHEET: return "no sheet is selected";
+    case FREEXL_INVALID_CHARACTER: return "a text holds a character outside its code page";
+    case FREEXL_UNSUPPORTED_CHARSET: return "the workbook's code page is not supported";
+    case FREEXL_ILLEGAL_CELL_ROW_COL: return "a cell lies outside the sheet";
+    case FREEXL_ILLEGAL_RK_VALUE: return "a number cell is damaged";
+    case FREEXL_INVALID_MINI_STREAM: return "the file's small-data stream is damaged";
+    case FREEXL_CFBF_ILLEGAL_MINI_FAT_ENTRY: return "the file's small-data sector table is damaged";
+    case FREEXL_CRAFTED_FILE: return "the file is badly damaged";
   }
   return "the reader failed (code " + std::to_string(code) + ")";
 }
@@ -173,8 +148,7 @@ Cell cellFrom(const FreeXL_CellValue& value) {
         cell.kind = Cell::Kind::Text;
       }
       break;
-    default:
-      break;
+    default: break;
   }
   return cell;
 }
@@ -198,8 +172,7 @@ unsigned short worksheetNamed(const void* handle, const std::optional<std::strin
 }
 
 // In the child: FreeXL only, then _exit, so no handler of the parent runs twice.
-[[noreturn]] void readEverythingAndExit(const char* path,
-                                        const std::optional<std::string>& sheet) {
+[[noreturn]] void readEverythingAndExit(const char* path, const std::optional<std::string>& sheet) {
   const void* handle = nullptr;
   if (freexl_open(path, &handle) == FREEXL_OK &&
       freexl_select_active_worksheet(handle, worksheetNamed(handle, sheet)) == FREEXL_OK) {
@@ -248,12 +221,9 @@ class XlsSheet : public Sheet {
     if (container.hasDamagedEntryName()) workbookFault(path_, "the file's directory is damaged");
     const std::optional<std::string> activeSheet = container.activeSheetName();
     switch (trialRead(path, activeSheet)) {
-      case TrialRead::Crashed:
-        workbookFault(path_, "the file is badly damaged");
-      case TrialRead::Hung:
-        workbookFault(path_, "reading the file did not come to an end");
-      case TrialRead::Passed:
-        break;
+      case TrialRead::Crashed: workbookFault(path_, "the file is badly damaged");
+      case TrialRead::Hung: workbookFault(path_, "reading the file did not come to an end");
+      case TrialRead::Passed: break;
     }
     check(freexl_open(path.c_str(), xls_.out()));
     if (!xls_.get()) workbookFault(path_, "the file holds no workbook");

@@ -49,8 +49,7 @@ bool fitsLong(double x) { return x >= kLongMin && x <= kLongMax; }
 // Long fields and texts into Text fields; other storage comes from files made elsewhere.
 Value columnValue(sqlite3_stmt* stmt, int column, FieldType type) {
   switch (sqlite3_column_type(stmt, column)) {
-    case SQLITE_NULL:
-      return {};
+    case SQLITE_NULL: return {};
     case SQLITE_INTEGER: {
       std::int64_t n = sqlite3_column_int64(stmt, column);
       if (type == FieldType::Long && fitsLong(static_cast<double>(n))) {
@@ -65,8 +64,7 @@ Value columnValue(sqlite3_stmt* stmt, int column, FieldType type) {
         return Value(static_cast<std::int32_t>(whole));
       return Value(numberText(x));
     }
-    default:
-      return Value(columnText(stmt, column));
+    default: return Value(columnText(stmt, column));
   }
 }
 

@@ -80,10 +80,8 @@ std::string TableInfo::sqlOf(Statement kind) const {
       return "SELECT " + rowid + ", " + columns + " FROM " + table + " WHERE " + rowid +
              ">=?1 ORDER BY " + rowid;
     }
-    case Statement::Rowids:
-      return "SELECT " + rowid + " FROM " + table + " ORDER BY " + rowid;
-    case Statement::Delete:
-      return "DELETE FROM " + table + " WHERE " + rowid + "=?1";
+    case Statement::Rowids: return "SELECT " + rowid + " FROM " + table + " ORDER BY " + rowid;
+    case Statement::Delete: return "DELETE FROM " + table + " WHERE " + rowid + "=?1";
     case Statement::Insert: {
       std::string columns, parameters;
       for (const FieldDef& field : fields) {

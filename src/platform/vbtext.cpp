@@ -169,9 +169,9 @@ long charCount(std::string_view text) {
 
 std::string leftChars(std::string_view text, long count) {
   if (count < 0) {
-    throw Fault(FaultKind::InvalidProcedureCall,
-                "cannot take " + std::to_string(count) + " characters of \"" +
-                    std::string(text) + "\"");
+    throw Fault(
+        FaultKind::InvalidProcedureCall,
+        "cannot take " + std::to_string(count) + " characters of \"" + std::string(text) + "\"");
   }
   size_t i = 0;
   long taken = 0;

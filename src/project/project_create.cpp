@@ -8,8 +8,8 @@
 #include "platform/store.h"
 #include "platform/vbtext.h"
 #include "project/commands.h"
-#include "store/ondayaz.h"
 #include "project/project_commands.h"
+#include "store/ondayaz.h"
 #include "store/project_format.h"
 
 namespace tri {

@@ -4,8 +4,8 @@
 #include "platform/store.h"
 #include "platform/vbtext.h"
 #include "project/commands.h"
-#include "store/hole_lists.h"
 #include "project/project_commands.h"
+#include "store/hole_lists.h"
 #include "store/project_format.h"
 #include "store/project_lists.h"
 

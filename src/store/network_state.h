@@ -1,4 +1,5 @@
-// The state of the network's own tools: the Select-Cut view of the drill logs and the picks of triangle and hole removal.
+// The state of the network's own tools: the Select-Cut view of the drill logs and the picks of
+// triangle and hole removal.
 #pragma once
 
 #include "platform/bounded.h"

@@ -1,4 +1,5 @@
-// The state of production planning: the point sets, the tracing of areas, the digitized parts and their sums per area.
+// The state of production planning: the point sets, the tracing of areas, the digitized parts and
+// their sums per area.
 #pragma once
 
 #include "platform/bounded.h"

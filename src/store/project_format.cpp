@@ -34,20 +34,23 @@ std::vector<FieldDef> longFields(std::initializer_list<const char*> names) {
 std::vector<FieldDef> polFields() {
   std::vector<FieldDef> fields;
   for (int n = 1; n <= 20; ++n) {
-    for (const char* stem : {field::koordinatx, field::koordinaty, field::koordinatuz, field::koordinataz}) {
+    for (const char* stem :
+         {field::koordinatx, field::koordinaty, field::koordinatuz, field::koordinataz}) {
       fields.push_back(longField(numbered(stem, n)));
     }
   }
-  for (const char* name : {field::okoordinatx, field::okoordinaty, field::polsay, field::polsil, field::polalan,
-                           field::polortten, field::polortyog, field::polhacim, field::poltonaj, field::polrezerv}) {
+  for (const char* name :
+       {field::okoordinatx, field::okoordinaty, field::polsay, field::polsil, field::polalan,
+        field::polortten, field::polortyog, field::polhacim, field::poltonaj, field::polrezerv}) {
     fields.push_back(longField(name));
   }
   return fields;
 }
 
 std::vector<FieldDef> holeFields(int layerSlots) {
-  std::vector<FieldDef> fields{longField(field::eks),    longField(field::eye),    textField(field::isim),
-                               longField(field::songir), longField(field::cevgir), longField(field::cevcik),
+  std::vector<FieldDef> fields{longField(field::eks),    longField(field::eye),
+                               textField(field::isim),   longField(field::songir),
+                               longField(field::cevgir), longField(field::cevcik),
                                longField(field::soncik)};
   for (int n = 1; n <= layerSlots; ++n) {
     fields.push_back(textField(numbered(field::lit, n)));
@@ -79,12 +82,13 @@ std::vector<FieldDef> lithologyListFields() {
 }
 
 std::vector<FieldDef> drawingFields() {
-  return longFields({field::koordinat1, field::koordinat2, field::sondgir,    field::cevhgir,    field::cevhcik,
-                     field::sondcik,    field::say,        field::ebxk,       field::ekxk,       field::ebyk,
-                     field::ekyk,       field::genelrezerv, field::geneltenor, field::ortucgen1,  field::ortucgen2,
-                     field::ucgensay,   field::ortucgen11, field::ortucgen21, field::ilkuz,      field::genelyog,
-                     field::kubaj,      field::tonaj,      field::rezerv,     field::ill,        field::kal,
-                     field::bsy});
+  return longFields({field::koordinat1, field::koordinat2, field::sondgir,   field::cevhgir,
+                     field::cevhcik,    field::sondcik,    field::say,       field::ebxk,
+                     field::ekxk,       field::ebyk,       field::ekyk,      field::genelrezerv,
+                     field::geneltenor, field::ortucgen1,  field::ortucgen2, field::ucgensay,
+                     field::ortucgen11, field::ortucgen21, field::ilkuz,     field::genelyog,
+                     field::kubaj,      field::tonaj,      field::rezerv,    field::ill,
+                     field::kal,        field::bsy});
 }
 
 std::vector<FieldDef> limitFields() {

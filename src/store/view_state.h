@@ -1,4 +1,5 @@
-// The state of the reserve views: the value maps' and the 3D view's working values, the colour classes, the show/hide counters, and the overlays placed on the plan.
+// The state of the reserve views: the value maps' and the 3D view's working values, the colour
+// classes, the show/hide counters, and the overlays placed on the plan.
 #pragma once
 
 #include "platform/bounded.h"

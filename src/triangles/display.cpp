@@ -12,8 +12,8 @@ namespace tri {
 namespace {
 
 void showPlanOnly(Controls& ui) {
-  for (const char* name : {"Combo3", "Command1", "Frame1", "Frame2", "Picture2", "Command2",
-                           "HScroll1"}) {
+  for (const char* name :
+       {"Combo3", "Command1", "Frame1", "Frame2", "Picture2", "Command2", "HScroll1"}) {
     ui.hide(name);
   }
   ui.show("Picture1");

@@ -10,8 +10,8 @@
 namespace tri {
 
 void disableEntryMenuItems(State& s) {
-  for (const char* item : {"Mnkaydir", "MNolcek", "Mntoprez", "Mnorten", "Mnhorten", "Mnkortyog",
-                           "Mnaortyog"}) {
+  for (const char* item :
+       {"Mnkaydir", "MNolcek", "Mntoprez", "Mnorten", "Mnhorten", "Mnkortyog", "Mnaortyog"}) {
     s.ui.enable(item, false);
   }
 }

@@ -34,8 +34,8 @@ TriangleCorners readTriangleCorners(Recordset& table, int t) {
 }
 
 VertexRow vertexOfHole(const Holes& h, int hole) {
-  return {h.eks[hole], h.eye[hole], hole, h.songir[hole], h.cevgir[hole], h.cevcik[hole],
-          h.soncik[hole]};
+  return {h.eks[hole],    h.eye[hole],    hole,          h.songir[hole],
+          h.cevgir[hole], h.cevcik[hole], h.soncik[hole]};
 }
 
 VertexRow readVertexRow(const Recordset& table) {

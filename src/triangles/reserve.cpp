@@ -43,7 +43,8 @@ CornerMeans baseCornerMeans(const CornerLogs& logs, const std::string& lithology
     addOreLayers(sums, logs[k], lithology);
     m.length[k] = sums.length;
     m.tenor[k] = divide(sums.s1, sums.s2, "tenor of a corner hole without ore of the lithology");
-    m.density[k] = divide(sums.s3, sums.s4, "density of a corner hole without ore of the lithology");
+    m.density[k] =
+        divide(sums.s3, sums.s4, "density of a corner hole without ore of the lithology");
   }
   return m;
 }

@@ -4,8 +4,8 @@
 
 namespace tri {
 
-void addOreLayers(CornerSums& sums, const std::vector<Layer>& layers,
-                  const std::string& lithology, std::optional<double> cutoff) {
+void addOreLayers(CornerSums& sums, const std::vector<Layer>& layers, const std::string& lithology,
+                  std::optional<double> cutoff) {
   for (const Layer& layer : layers) {
     if (layer.lit != lithology || (cutoff && !(layer.ten >= *cutoff))) continue;
     sums.length += layer.uz;

@@ -30,8 +30,8 @@ struct CornerSums {
 
 // Adds to `sums`, in layer order, every layer whose lithology is `lithology` and, when a
 // cut-off is given, whose tenor is at or above it. The sums go on from what they hold.
-void addOreLayers(CornerSums& sums, const std::vector<Layer>& layers,
-                  const std::string& lithology, std::optional<double> cutoff = std::nullopt);
+void addOreLayers(CornerSums& sums, const std::vector<Layer>& layers, const std::string& lithology,
+                  std::optional<double> cutoff = std::nullopt);
 
 // Per corner 1..3: ore length (the sum of the ore layers' lengths), tenor (weighted by
 // length times density) and density (weighted by length).

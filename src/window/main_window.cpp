@@ -6,9 +6,9 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include "commands/menu.h"
 #include "commands/procedures.h"
 #include "platform/fault.h"
-#include "commands/menu.h"
 #include "project/commands.h"
 #include "window/print_panels.h"
 #include "window/qt_dialogs.h"
@@ -52,8 +52,8 @@ MainWindow::MainWindow(Dialogs* dialogs, QWidget* parent)
   connectControls(state_);
   for (const auto& [number, caption] : printPanelCaptions()) state_.ui.setLabel(number, caption);
   buildWidgets();
-  widgets_.menu =
-      buildMenuBar(menuBar(), menuItems(), [this](Procedure procedure) { runProcedure(procedure); });
+  widgets_.menu = buildMenuBar(menuBar(), menuItems(),
+                               [this](Procedure procedure) { runProcedure(procedure); });
   connectHooks();
   resize(1100, 800);
   runCommand([this] { Form_Load(state_); });

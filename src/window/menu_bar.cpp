@@ -54,8 +54,7 @@ MenuActions buildMenuBar(QMenuBar* bar, const std::vector<MenuItem>& rows,
   MenuTree tree(bar);
   MenuActions actions;
   for (const MenuItem& row : rows) {
-    QAction* action =
-        isSubmenu(row) ? addSubmenu(tree, row, run) : addCommand(tree, row, run);
+    QAction* action = isSubmenu(row) ? addSubmenu(tree, row, run) : addCommand(tree, row, run);
     action->setObjectName(utf8(row.name));
     action->setShortcut(QKeySequence(utf8(row.shortcut)));
     action->setCheckable(row.checkable);

@@ -34,54 +34,39 @@ QString qtPatterns(const QString& patterns) {
 
 QMessageBox::Icon qtIcon(Icon icon) {
   switch (icon) {
-    case Icon::None:
-      return QMessageBox::NoIcon;
-    case Icon::Information:
-      return QMessageBox::Information;
-    case Icon::Exclamation:
-      return QMessageBox::Warning;
+    case Icon::None: return QMessageBox::NoIcon;
+    case Icon::Information: return QMessageBox::Information;
+    case Icon::Exclamation: return QMessageBox::Warning;
   }
   return QMessageBox::NoIcon;
 }
 
 QMessageBox::StandardButtons qtButtons(Buttons buttons) {
   switch (buttons) {
-    case Buttons::OK:
-      return QMessageBox::Ok;
-    case Buttons::OKCancel:
-      return QMessageBox::Ok | QMessageBox::Cancel;
-    case Buttons::YesNo:
-      return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::OK: return QMessageBox::Ok;
+    case Buttons::OKCancel: return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::YesNo: return QMessageBox::Yes | QMessageBox::No;
   }
   return QMessageBox::Ok;
 }
 
 QMessageBox::StandardButton qtButton(Answer answer) {
   switch (answer) {
-    case Answer::OK:
-      return QMessageBox::Ok;
-    case Answer::Cancel:
-      return QMessageBox::Cancel;
-    case Answer::Yes:
-      return QMessageBox::Yes;
-    case Answer::No:
-      return QMessageBox::No;
+    case Answer::OK: return QMessageBox::Ok;
+    case Answer::Cancel: return QMessageBox::Cancel;
+    case Answer::Yes: return QMessageBox::Yes;
+    case Answer::No: return QMessageBox::No;
   }
   return QMessageBox::Ok;
 }
 
 Answer answerOf(QMessageBox::StandardButton button, Buttons buttons) {
   switch (button) {
-    case QMessageBox::Ok:
-      return Answer::OK;
-    case QMessageBox::Cancel:
-      return Answer::Cancel;
-    case QMessageBox::Yes:
-      return Answer::Yes;
-    case QMessageBox::No:
-      return Answer::No;
-    default:
-      return dismissedAnswer(buttons);
+    case QMessageBox::Ok: return Answer::OK;
+    case QMessageBox::Cancel: return Answer::Cancel;
+    case QMessageBox::Yes: return Answer::Yes;
+    case QMessageBox::No: return Answer::No;
+    default: return dismissedAnswer(buttons);
   }
 }
 
@@ -104,12 +89,9 @@ QString toQtFilter(const std::string& filter) {
 
 Answer dismissedAnswer(Buttons buttons) {
   switch (buttons) {
-    case Buttons::OK:
-      return Answer::OK;
-    case Buttons::OKCancel:
-      return Answer::Cancel;
-    case Buttons::YesNo:
-      return Answer::No;
+    case Buttons::OK: return Answer::OK;
+    case Buttons::OKCancel: return Answer::Cancel;
+    case Buttons::YesNo: return Answer::No;
   }
   return Answer::Cancel;
 }

@@ -37,8 +37,8 @@ TEST(LimitStudy, ALimitOfZeroReproducesTheDrawingsOwnValues) {
     EXPECT_EQ(study.number(row, "ebxk"), own.number(row, "ebxk"));
   }
   for (int row : {2, 3, 4, 6, 7, 8}) {
-    for (const char* field : {"koordinat1", "koordinat2", "say", "sondgir", "cevhgir",
-                              "cevhcik", "sondcik"}) {
+    for (const char* field :
+         {"koordinat1", "koordinat2", "say", "sondgir", "cevhgir", "cevhcik", "sondcik"}) {
       EXPECT_EQ(study.number(row, field), own.number(row, field)) << field << " row " << row;
     }
   }
@@ -60,10 +60,10 @@ TEST(LimitStudy, AHoleWithoutCountedLayersLowersOnlyTheLengthDivisor) {
   TwoTriangles s;
   s.addLimit("2.5");  // A (tenor 2) drops out
   StoredTable study = s.table("2.5Kuzey");
-  EXPECT_EQ(study.number(5, "ilkuz"), 25000);       // (20 + 30) / 2
-  EXPECT_EQ(study.number(5, "geneltenor"), 3642);   // 510 / 140
-  EXPECT_EQ(study.number(5, "genelyog"), 2800);     // 140 / 50
-  EXPECT_EQ(study.number(9, "genelyog"), 2800);     // the sums start afresh per corner
+  EXPECT_EQ(study.number(5, "ilkuz"), 25000);      // (20 + 30) / 2
+  EXPECT_EQ(study.number(5, "geneltenor"), 3642);  // 510 / 140
+  EXPECT_EQ(study.number(5, "genelyog"), 2800);    // 140 / 50
+  EXPECT_EQ(study.number(9, "genelyog"), 2800);    // the sums start afresh per corner
 }
 
 TEST(LimitStudy, RecordsTheSlotAndSelectsTheNewLimit) {

@@ -26,10 +26,11 @@ Result run(const std::string& script, const std::string& folder = ".") {
 
 TEST(ScenarioRunner, ResizesPrintsLabelsAndSavesTheImage) {
   TempDir dir;
-  Result r = run("resize 640 480   # a smaller canvas\n"
-                 "print-labels\n"
-                 "save-image picture.png\n",
-                 dir.path());
+  Result r =
+      run("resize 640 480   # a smaller canvas\n"
+          "print-labels\n"
+          "save-image picture.png\n",
+          dir.path());
   ASSERT_EQ(r.code, kScenarioDone) << r.err;
   EXPECT_NE(r.out.find("Label1: \n"), std::string::npos);
   EXPECT_NE(r.out.find("Label13: "), std::string::npos);
@@ -58,12 +59,13 @@ TEST(ScenarioRunner, AFaultStopsWithThreeAndPrintsKindAndMessage) {
 }
 
 TEST(ScenarioRunner, CancellingTheOpenDialogAsksAgainAndCancelEnds) {
-  Result r = run("answer file\n"
-                 "answer button OK\n"
-                 "answer file\n"
-                 "answer button Cancel\n"
-                 "command Mnprojeac_Click\n"
-                 "expect-label 1 \n");
+  Result r =
+      run("answer file\n"
+          "answer button OK\n"
+          "answer file\n"
+          "answer button Cancel\n"
+          "command Mnprojeac_Click\n"
+          "expect-label 1 \n");
   EXPECT_EQ(r.code, kScenarioDone) << r.err;
 }
 

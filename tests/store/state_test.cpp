@@ -1,8 +1,8 @@
 // The fixed capacities of the program state.
 #include <gtest/gtest.h>
 
-#include "platform/fault.h"
 #include "commands/procedures.h"
+#include "platform/fault.h"
 #include "project/commands.h"
 #include "store/state.h"
 #include "support/session.h"

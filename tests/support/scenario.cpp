@@ -104,8 +104,9 @@ class ScenarioRun {
     if (kind == "color") {
       std::vector<std::string> rgbWords = words(value);
       if (rgbWords.size() != 3) throw BadStatement("answer color takes R G B");
-      d.answerColor(rgb(static_cast<int>(numberArg(rgbWords[0])), static_cast<int>(numberArg(rgbWords[1])),
-                  static_cast<int>(numberArg(rgbWords[2]))));
+      d.answerColor(rgb(static_cast<int>(numberArg(rgbWords[0])),
+                        static_cast<int>(numberArg(rgbWords[1])),
+                        static_cast<int>(numberArg(rgbWords[2]))));
       return;
     }
     throw BadStatement("unknown answer kind \"" + kind + "\"");
@@ -146,7 +147,8 @@ class ScenarioRun {
     if (args.size() != 2) throw BadStatement("resize takes W H");
     const double w = numberArg(args[0]);
     const double h = numberArg(args[1]);
-    if (w < 1 || h < 1 || w > 20000 || h > 20000) throw BadStatement("resize to a size of 1 to 20000");
+    if (w < 1 || h < 1 || w > 20000 || h > 20000)
+      throw BadStatement("resize to a size of 1 to 20000");
     session_.resize(static_cast<int>(w), static_cast<int>(h));
   }
 
@@ -172,7 +174,8 @@ class ScenarioRun {
     if (n < 1 || n > 13) throw BadStatement("no Label" + number);
     const std::string& actual = session_.state.ui.label(n);
     if (actual != text) {
-      throw ExpectationFailed("Label" + number + " is \"" + actual + "\", expected \"" + text + "\"");
+      throw ExpectationFailed("Label" + number + " is \"" + actual + "\", expected \"" + text +
+                              "\"");
     }
   }
 

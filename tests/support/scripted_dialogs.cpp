@@ -27,13 +27,12 @@ const char* answerName(Answer answer) {
 
 UnansweredDialog::UnansweredDialog(DialogKind kindOf, const std::string& promptOf,
                                    const std::string& reason)
-    : std::runtime_error(reason + ": " + dialogKindName(kindOf) + " dialog \"" + promptOf +
-                         "\""),
+    : std::runtime_error(reason + ": " + dialogKindName(kindOf) + " dialog \"" + promptOf + "\""),
       kind(kindOf),
       prompt(promptOf) {}
 
 ScriptedDialogs& ScriptedDialogs::answerInput(const std::string& answer,
-                                        std::optional<std::string> prompt) {
+                                              std::optional<std::string> prompt) {
   queue_.push_back(Queued{DialogKind::Input, std::move(prompt), answer, Answer::OK, {}});
   return *this;
 }
@@ -45,13 +44,13 @@ ScriptedDialogs& ScriptedDialogs::answerButton(Answer answer, std::optional<std:
 }
 
 ScriptedDialogs& ScriptedDialogs::answerOpen(const std::string& path,
-                                           std::optional<std::string> title) {
+                                             std::optional<std::string> title) {
   queue_.push_back(Queued{DialogKind::OpenFile, std::move(title), path, Answer::OK, {}});
   return *this;
 }
 
 ScriptedDialogs& ScriptedDialogs::answerSave(const std::string& path,
-                                           std::optional<std::string> title) {
+                                             std::optional<std::string> title) {
   queue_.push_back(Queued{DialogKind::SaveFile, std::move(title), path, Answer::OK, {}});
   return *this;
 }
@@ -86,9 +85,9 @@ ScriptedDialogs::Queued ScriptedDialogs::take(DialogKind kind, const std::string
   if (queue_.empty()) throw UnansweredDialog(kind, prompt, "no answer queued");
   Queued next = queue_.front();
   if (!sameKind(next.kind, kind)) {
-    throw UnansweredDialog(kind, prompt,
-                           std::string("the next answer is for a ") +
-                               dialogKindName(next.kind) + " dialog");
+    throw UnansweredDialog(
+        kind, prompt,
+        std::string("the next answer is for a ") + dialogKindName(next.kind) + " dialog");
   }
   if (next.prompt && *next.prompt != prompt) {
     throw UnansweredDialog(kind, prompt, "the answer queued expects \"" + *next.prompt + "\"");
@@ -106,10 +105,10 @@ std::string ScriptedDialogs::inputBox(const std::string& prompt, const std::stri
 Answer ScriptedDialogs::messageBox(const std::string& text, Buttons buttons, Icon,
                                    const std::string& title) {
   Queued q = take(DialogKind::Message, text);
-  bool allowed = (buttons == Buttons::OK && q.answer == Answer::OK) ||
-                 (buttons == Buttons::OKCancel &&
-                  (q.answer == Answer::OK || q.answer == Answer::Cancel)) ||
-                 (buttons == Buttons::YesNo && (q.answer == Answer::Yes || q.answer == Answer::No));
+  bool allowed =
+      (buttons == Buttons::OK && q.answer == Answer::OK) ||
+      (buttons == Buttons::OKCancel && (q.answer == Answer::OK || q.answer == Answer::Cancel)) ||
+      (buttons == Buttons::YesNo && (q.answer == Answer::Yes || q.answer == Answer::No));
   if (!allowed) {
     throw UnansweredDialog(DialogKind::Message, text,
                            std::string("the box has no button ") + answerName(q.answer));

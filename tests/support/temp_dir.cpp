@@ -19,7 +19,9 @@ TempDir::~TempDir() {
 
 std::string TempDir::file(const std::string& name) const { return path_ + "/" + name; }
 
-std::string fixture(const std::string& name) { return std::string(TRIRESERVE_FIXTURES) + "/" + name; }
+std::string fixture(const std::string& name) {
+  return std::string(TRIRESERVE_FIXTURES) + "/" + name;
+}
 
 std::string sample(const std::string& name) { return std::string(TRIRESERVE_SAMPLES) + "/" + name; }
 
