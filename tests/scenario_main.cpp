@@ -2,6 +2,7 @@
 #include <QGuiApplication>
 #include <iostream>
 
+#include "support/headless.h"
 #include "support/scenario.h"
 
 int main(int argc, char** argv) {
@@ -9,7 +10,7 @@ int main(int argc, char** argv) {
     std::cerr << "usage: trireserve-scenario FILE\n";
     return tri::kScenarioBadStatement;
   }
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  tri::prepareHeadlessQt();
   QGuiApplication app(argc, argv);
   return tri::runScenarioFile(argv[1], std::cout, std::cerr);
 }
