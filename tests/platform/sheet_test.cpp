@@ -4,10 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <climits>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <random>
 #include <string>
 #include <tuple>
@@ -15,6 +17,7 @@
 #include <vector>
 
 #include "platform/fault.h"
+#include "platform/xls_guard.h"
 #include "support/temp_dir.h"
 
 namespace tri {
@@ -245,12 +248,32 @@ TEST_F(SheetXlsFaults, ADirectoryEntryNameLongerThanItsField) {
   expectUnreadable("long_name.xls", bytes, "directory is damaged");
 }
 
+// Were the probe not run, or run on another file, FreeXL would crash this test program.
 TEST_F(SheetXlsFaults, AWorkbookThatCrashesTheParserEndsInAFault) {
+  ASSERT_TRUE(findXlsProbe()) << "the workbook guard's probe program is missing";
   std::string message = workbookFaultOf(fixture("huge_dimension.xls"));
   EXPECT_NE(message.find("huge_dimension.xls"), std::string::npos) << message;
   EXPECT_NE(message.find("badly damaged"), std::string::npos) << message;
+  // The path reaches the probe as it is, whatever it holds.
+  const std::string oddName = folder.file("-x 'huge' \"$(dimension)\" ;.xls");
+  writeBytes(oddName, readBytes(fixture("huge_dimension.xls")));
+  EXPECT_NE(workbookFaultOf(oddName).find("badly damaged"), std::string::npos);
   // The program goes on reading other workbooks.
   EXPECT_FALSE(openXlsSheet(fixture("small.xls"))->cell(1, 1).isEmpty());
+}
+
+TEST_F(SheetXlsFaults, TheGuardTellsHowItsProbeEnded) {
+  const std::optional<std::string> probe = findXlsProbe();
+  ASSERT_TRUE(probe);
+  const std::string small = fixture("small.xls");
+  EXPECT_EQ(trialRead(*probe, small, "no such sheet"), TrialRead::Passed);
+  EXPECT_EQ(trialRead("/bin/false", small, std::nullopt), TrialRead::Crashed);
+  EXPECT_EQ(trialRead(folder.file("missing-probe"), small, std::nullopt), TrialRead::NotStarted);
+  // A probe that does not end is killed once the patience runs out.
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(trialRead("/bin/sleep", "30", std::nullopt, std::chrono::milliseconds(100)),
+            TrialRead::Hung);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 // Damage anywhere in a workbook either still reads or ends in a Workbook Fault, never a crash.

@@ -314,6 +314,11 @@ int reportsUntilKill(const std::string& path, int first, int wanted) {
   int pipeFds[2];
   if (pipe(pipeFds) != 0) return -1;
   pid_t child = fork();
+  if (child < 0) {
+    close(pipeFds[0]);
+    close(pipeFds[1]);
+    return -1;
+  }
   if (child == 0) {
     close(pipeFds[0]);
     appendUntilKilled(path, first, pipeFds[1]);

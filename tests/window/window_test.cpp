@@ -66,7 +66,7 @@ TEST(WindowProject, ChoosingADrawingShowsItsTrianglesOnTheCanvas) {
   EXPECT_TRUE(blackNear(shown, h.pixelOf(587.5, 850)));
   EXPECT_TRUE(blackNear(shown, h.pixelOf(587.5, 862.5)));
   EXPECT_EQ(shown.pixelColor(h.pixelOf(562, 862)), QColor(Qt::white));
-  EXPECT_TRUE(h.window.grab().save("trireserve-window.png"));
+  EXPECT_TRUE(h.window.grab().save(QString::fromStdString(h.dir.file("window.png"))));
 }
 
 TEST(WindowCanvas, AClickReachesTheLogicAtTheWorldPointOfItsPixel) {
