@@ -32,8 +32,6 @@ class ScriptedDialogs : public Dialogs {
   ScriptedDialogs& answerOpen(const std::string& path, std::optional<std::string> title = {});
   ScriptedDialogs& answerSave(const std::string& path, std::optional<std::string> title = {});
   ScriptedDialogs& answerColor(Color color, std::optional<std::string> title = {});
-  // Cancel the next colour dialog.
-  ScriptedDialogs& cancelColor();
 
   struct Shown {
     DialogKind kind;
@@ -61,6 +59,8 @@ class ScriptedDialogs : public Dialogs {
     Answer answer = Answer::OK;
     std::optional<Color> color;
   };
+  ScriptedDialogs& queue(DialogKind kind, std::optional<std::string> prompt, std::string text,
+                         Answer answer = Answer::OK, std::optional<Color> color = {});
   Queued take(DialogKind kind, const std::string& prompt);
   FileChoice file(DialogKind kind, const std::string& title, const std::string& filter);
 
