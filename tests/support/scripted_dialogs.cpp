@@ -111,6 +111,10 @@ FileChoice ScriptedDialogs::saveFile(const std::string& title, const std::string
   return file(DialogKind::SaveFile, title, filter);
 }
 
+ScriptedDialogs& ScriptedDialogs::cancelColor() {
+  return queue(DialogKind::Color, {}, "cancel", Answer::Cancel);
+}
+
 std::optional<Color> ScriptedDialogs::chooseColor(const std::string& title, Color) {
   Queued q = take(DialogKind::Color, title);
   shown_.push_back({DialogKind::Color, title, "", q.text});

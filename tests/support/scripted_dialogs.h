@@ -32,6 +32,8 @@ class ScriptedDialogs : public Dialogs {
   ScriptedDialogs& answerOpen(const std::string& path, std::optional<std::string> title = {});
   ScriptedDialogs& answerSave(const std::string& path, std::optional<std::string> title = {});
   ScriptedDialogs& answerColor(Color color, std::optional<std::string> title = {});
+  // Cancel the next colour dialog.
+  ScriptedDialogs& cancelColor();
 
   struct Shown {
     DialogKind kind;
