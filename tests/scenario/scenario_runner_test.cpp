@@ -75,6 +75,7 @@ TEST(ScenarioRunner, BadStatementsAndUnmetExpectations) {
   EXPECT_EQ(run("click 1 2\n").code, kScenarioBadStatement);
   EXPECT_EQ(run("select Combo9 1\n").code, kScenarioBadStatement);
   EXPECT_EQ(run("answer button Maybe\n").code, kScenarioBadStatement);
+  EXPECT_EQ(run("elevations 395\n").code, kScenarioBadStatement);
   EXPECT_EQ(run("expect-label 1 Ready\n").code, kScenarioExpectation);
   // An answer that no dialog asked for means the scenario and the program disagree.
   EXPECT_EQ(run("answer input 5000\n").code, kScenarioExpectation);
