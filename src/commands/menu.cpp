@@ -5,6 +5,7 @@
 #include "canvas/commands.h"
 #include "limit/commands.h"
 #include "project/commands.h"
+#include "scan/commands.h"
 #include "triangles/commands.h"
 #include "views/commands.h"
 
@@ -39,11 +40,11 @@ const std::vector<MenuItem>& menuItems() {
       {"Mnlimsil", "Mnlimten", "&Delete", "", Mnlimsil_Click, false},
       {"Mntara", "Mnharita", "&Scan", "", nullptr, false},
       {"Mntveri", "Mntara", "&Data", "", nullptr, false},
-      {"Mntkot", "Mntveri", "&Elevation", "", nullptr, false},
-      {"Mntiklama", "Mntveri", "&Select", "", nullptr, false},
-      {"Mnttem", "Mntveri", "&Clear", "", nullptr, false},
-      {"Mntrtek", "Mntara", "&Single", "", nullptr, false},
-      {"Mntrtum", "Mntara", "&All", "", nullptr, false},
+      {"Mntkot", "Mntveri", "&Elevation", "", Mntkot_Click, false},
+      {"Mntiklama", "Mntveri", "&Select", "", Mntiklama_Click, false},
+      {"Mnttem", "Mntveri", "&Clear", "", Mnttem_Click, false},
+      {"Mntrtek", "Mntara", "&Single", "", Mntrtek_Click, false},
+      {"Mntrtum", "Mntara", "&All", "", Mntrtum_Click, false},
       {"Mntenörler", "Mnharita", "&2D", "", nullptr, false},
       {"Mnyuzdeten", "Mntenörler", "&Tenor(%)", "Ctrl+Q", Mnyuzdeten_Click, false},
       {"Mnrezton", "Mntenörler", "&Reserve(ton)", "Ctrl+W", Mnrezton_Click, false},

@@ -41,7 +41,7 @@ TEST(ScenarioRunner, ADialogWithoutAnswerOrAFaultStopsTheRunSayingWhy) {
 
 TEST(ScenarioRunner, BadStatementsUnmetExpectationsAndOtherOutput) {
   for (const char* bad : {"jump 3\n", "command NoSuchProcedure\n", "click 1 2\n",
-                          "select Combo9 1\n", "answer button Maybe\n"}) {
+                          "select Combo9 1\n", "answer button Maybe\n", "elevations 395\n"}) {
     EXPECT_EQ(run(bad).code, kScenarioBadStatement) << bad;
   }
   EXPECT_EQ(run("expect-label 1 Ready\n").code, kScenarioExpectation);

@@ -87,6 +87,7 @@ class ScenarioRun {
     }
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
+    if (verb == "elevations") return elevations(words(rest));
     throw BadStatement("unknown statement \"" + verb + "\"");
   }
 
@@ -174,6 +175,15 @@ class ScenarioRun {
     if (actual != trim(text)) {
       throw ExpectationFailed(name + " holds \"" + actual + "\", expected \"" + trim(text) + "\"");
     }
+  }
+
+  // The bench as the two prompts of the elevation command would set it, whose first step
+  // ends the program before they are shown.
+  void elevations(const std::vector<std::string>& args) {
+    if (args.size() != 2) throw BadStatement("elevations takes UP DOWN");
+    Scan& scan = session_.state.scan;
+    scan.upkot = toNumber(args[0]);
+    scan.downkot = toNumber(args[1]);
   }
 
   std::string folder_;
