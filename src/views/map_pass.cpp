@@ -75,7 +75,7 @@ std::optional<MapTable> openMapPass(State& s, const MapHead& head) {
   {
     Recordset kor = db.openTable(kHoleTable);
     loadHoleCoordinates(s, kor, HoleListEnd::ZeroXOrPointName);
-    frameFit(s, LimitWording::View);
+    frameFit(s, head.wording);
     drawGrid(s);
   }
   const std::optional<std::string> tableName = selectedTable(s);

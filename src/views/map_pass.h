@@ -5,6 +5,7 @@
 
 #include <optional>
 
+#include "canvas/frame.h"
 #include "platform/store.h"
 #include "store/state.h"
 #include "triangles/records.h"
@@ -17,6 +18,9 @@ struct MapHead {
   void (*setFlags)(Flags& flags);
   // The 3D view keeps the scroll bar that turns it.
   bool hideScrollBar = true;
+  // The menu commands word the area limit as the project commands do; the redraw of the
+  // scroll bar writes it with a leading blank.
+  LimitWording wording = LimitWording::Plain;
 };
 
 // The project file and the selected triangle table, both open.
@@ -27,7 +31,7 @@ struct MapTable {
 
 // The head of a pass: clears the canvas and the markers, sets the flags, enables the menu
 // items of the overlays, shows the canvas alone, loads the holes from kor (up to the first
-// point row), fits the frame with the views' area-limit wording, draws the grid, and opens
+// point row), fits the frame with the head's area-limit wording, draws the grid, and opens
 // the table the selectors name. Without one, the database is closed and nothing is
 // returned: the view ends there, without triangles or holes.
 std::optional<MapTable> openMapPass(State& s, const MapHead& head);

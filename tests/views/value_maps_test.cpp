@@ -99,7 +99,7 @@ TEST(MapPass, EachMapReplacesTheOtherViewsEnablesTheOverlaysAndShowsTheCanvasAlo
   }
 }
 
-TEST(MapPass, AFrameOfFiftySquareKilometresIsShrunkInTheViewsWords) {
+TEST(MapPass, AFrameOfFiftySquareKilometresIsShrunkAndSaidSo) {
   MapSession s;
   s.showDrawing({kLowerLeft});
   // 10 by 7 km, the canvas's own shape, so that the fit does not crop it first.
@@ -108,8 +108,8 @@ TEST(MapPass, AFrameOfFiftySquareKilometresIsShrunkInTheViewsWords) {
   s.state.frame.ekxk = s.state.frame.ekyk = 0;
   s.dialogs.answerButton(Answer::OK).answerButton(Answer::OK);
   s.run("Mnyuzdeten_Click");
-  EXPECT_EQ(s.dialogs.shown().back().title, " Attention !");
-  EXPECT_EQ(s.state.ui.label(1), " The corresponding fix has been made!");
+  EXPECT_EQ(s.dialogs.shown().back().title, "Attention !");
+  EXPECT_EQ(s.state.ui.label(1), "The corresponding fix has been made!");
   EXPECT_EQ(s.drawn(Kind::Line).size(), 3u);
 }
 
