@@ -7,6 +7,7 @@
 #include "store/project_format.h"
 #include "triangles/commands.h"
 #include "triangles/entry.h"
+#include "views/commands.h"
 
 namespace tri {
 
@@ -44,7 +45,7 @@ const MouseRow kMouseDownChain[] = {
     {tiklamaOn,    tiklamaDown},    // scan selection (left)
     {never,        nullptr},        // hole removal
     {never,        nullptr},        // triangle removal
-    {never,        nullptr},        // overlays (left)
+    {overlayOn,    overlayDown},    // overlays (left)
     {entryMode,    enterTriangle},  // triangle entry, every button
 };
 // clang-format on

@@ -1,4 +1,5 @@
-// The commands of the reserve views: the 2D value maps and the display settings they read.
+// The commands of the reserve views: the 2D value maps, the display settings they read, the
+// overlays placed on the plan, and the limit selector that brings the overlays up to date.
 #pragma once
 
 #include "store/state.h"
@@ -21,5 +22,26 @@ void Mnrenksec_Click(State& s);
 void MNrrezerv_Click(State& s);
 void Mnrmiktr_Click(State& s);
 void Mnrgrid_Click(State& s);
+
+// View, Add: arm one overlay, computing its number from the selected table at once: the
+// scale, the dial of the colour classes, the area- and cubage-relative tenor and density,
+// the total reserve, the limit tenor. A second use disarms, except for the dial.
+void MNolcek_Click(State& s);
+void Mnskala_Click(State& s);
+void Mnorten_Click(State& s);
+void Mnhorten_Click(State& s);
+void Mnaortyog_Click(State& s);
+void Mnkortyog_Click(State& s);
+void Mntoprez_Click(State& s);
+void Mnelmtnr_Click(State& s);
+
+// The overlays' row of the mouse chain of Picture1_MouseDown: whether one is armed, and its
+// branch, which prints every armed item at a left click and notes the place.
+bool overlayOn(const State& s);
+void overlayDown(State& s, int button, float x, float y);
+
+// Selectors: the limit tenor. Brings every overlay whose counter is odd up to date for the
+// newly selected table, then runs the replay's tail.
+void Combo1_Click(State& s);
 
 }  // namespace tri
