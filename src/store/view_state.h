@@ -39,6 +39,14 @@ struct Views {
   // The half perimeter of the last triangle given a disc; it carries over from triangle to
   // triangle and from pass to pass.
   double yaricevre = 0;
+
+  // The 3D reserve view: its click-point flag (set with modrecboy, never cleared), the angle
+  // of the scroll bar as last read, the reserves of the table's triangles in table order,
+  // and the constant of every angle conversion.
+  bool recboyizi = false;
+  int viewangle = 0;
+  Bounded<double> trireserve{"trireserve", 999};
+  double pi = 3.14159265358979;
 };
 
 }  // namespace tri

@@ -1,4 +1,5 @@
-// The commands of the reserve views: the 2D value maps and the display settings they read.
+// The commands of the reserve views: the 2D value maps, the 3D view and the display settings
+// they read.
 #pragma once
 
 #include "store/state.h"
@@ -10,6 +11,11 @@ namespace tri {
 void Mnyuzdeten_Click(State& s);
 void Mnrezton_Click(State& s);
 void Mngenelrezervler_Click(State& s);
+
+// Triangle, 3D: the ore body as prisms on the plan, and the scroll bar under the canvas that
+// turns it (its value is the angle in degrees, 0 to 360).
+void Mnrecboy_Click(State& s);
+void HScroll1_Change(State& s);
 
 // View, Show/Hide: hole names, value labels, grid.
 void Mnsndjgoster_Click(State& s);
