@@ -1,12 +1,13 @@
 // The 3D reserve view's arithmetic: the walks of the corner logs and the depths they give,
-// and the projection at the angles where it changes form. The prisms themselves are checked
-// through the reserve_view scenario and the window's pictures.
+// the projection at the angles where it changes form, and what the bar's redraw does
+// differently. The prisms themselves are checked through the reserve_view scenario and the
+// window's pictures.
 #include "views/view3d.h"
 
 #include <gtest/gtest.h>
 
 #include "store/project_format.h"
-#include "support/session.h"
+#include "triangles/drawing_session.h"
 
 namespace tri {
 namespace {
@@ -59,6 +60,22 @@ TEST(ViewProjection, PointsAtTheAnglesWhereTheViewChanges) {
   // The two forms join: 181 lies where the curve through 178, 179 and 180 leads.
   EXPECT_NEAR(at(181).x, 3 * at(180).x - 3 * at(179).x + at(178).x, 0.01);
   EXPECT_NEAR(at(181).y, 3 * at(180).y - 3 * at(179).y + at(178).y, 0.01);
+}
+
+// The bar's redraw is the view's pass but for two things: the marker shapes stay, and the
+// area limit's words start with a blank. A frame of 10 by 7 km is over the limit.
+TEST(ReserveView, TheBarsRedrawKeepsTheMarkersAndWordsTheAreaLimitWithABlank) {
+  DrawingSession s("cluster.xls", "ore", "plan1");
+  s.pickTriangle(600, 800, 600, 850, 550, 850);
+  s.state.markers.shapesay = 2;
+  s.state.frame.ebxk = 10000, s.state.frame.ebyk = 7000, s.state.frame.ekxk = 0;
+  s.state.frame.ekyk = 0;
+  s.dialogs.answerButton(Answer::OK).answerButton(Answer::OK);
+  s.run("HScroll1_Change");
+  EXPECT_EQ(s.dialogs.shown().back().title, " Attention !");
+  EXPECT_EQ(s.state.ui.label(1), " The corresponding fix has been made!");
+  EXPECT_EQ(s.state.markers.shapesay, 2);
+  EXPECT_EQ(s.canvas.describeSinceClear().size(), 8u);
 }
 
 }  // namespace
