@@ -50,7 +50,7 @@ const std::vector<MenuItem>& menuItems() {
       {"Mnrezton", "Mntenörler", "&Reserve(ton)", "Ctrl+W", Mnrezton_Click, false},
       {"Mngenelrezervler", "Mntenörler", "Reserve", "Ctrl+X", Mngenelrezervler_Click, false},
       {"Mn3bo", "Mnharita", "&3D", "", nullptr, false},
-      {"Mnrecboy", "Mn3bo", "&Reserve", "Ctrl+V", nullptr, false},
+      {"Mnrecboy", "Mn3bo", "&Reserve", "Ctrl+V", Mnrecboy_Click, false},
       // Production
       {"Mnuret", "", "&Production", "", nullptr, false},
       {"Mneveri", "Mnuret", "&Data", "", nullptr, false},

@@ -74,7 +74,7 @@ struct Frame {
   double olceky = 0;
   double olcek = 0;  // typed scale / 100
   bool olcekgirildi = false;
-  double buyutadim = 0.05;
+  double buyutadim = 0;  // the zoom step: 0.05 from the first zoom command on
   double kaydirx = 0;
   double kaydiry = 0;
   int kaydirsay = 0;

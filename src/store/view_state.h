@@ -100,6 +100,14 @@ struct Views {
 
   // The overlays placed on the plan.
   Overlays overlays;
+
+  // The 3D reserve view: its click-point flag (set with modrecboy, never cleared), the angle
+  // of the scroll bar as last read, the reserves of the table's triangles in table order,
+  // and the constant of every angle conversion.
+  bool recboyizi = false;
+  int viewangle = 0;
+  Bounded<double> trireserve{"trireserve", 999};
+  double pi = 3.14159265358979;
 };
 
 }  // namespace tri

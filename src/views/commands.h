@@ -1,5 +1,6 @@
-// The commands of the reserve views: the 2D value maps, the display settings they read, the
-// overlays placed on the plan, and the limit selector that brings the overlays up to date.
+// The commands of the reserve views: the 2D value maps, the 3D view, the display settings they
+// read, the overlays placed on the plan, and the limit selector that brings the overlays up to
+// date.
 #pragma once
 
 #include "store/state.h"
@@ -11,6 +12,11 @@ namespace tri {
 void Mnyuzdeten_Click(State& s);
 void Mnrezton_Click(State& s);
 void Mngenelrezervler_Click(State& s);
+
+// Triangle, 3D: the ore body as prisms on the plan, and the scroll bar under the canvas that
+// turns it (its value is the angle in degrees, 0 to 360).
+void Mnrecboy_Click(State& s);
+void HScroll1_Change(State& s);
 
 // View, Show/Hide: hole names, value labels, grid.
 void Mnsndjgoster_Click(State& s);

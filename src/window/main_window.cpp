@@ -117,21 +117,37 @@ QWidget* MainWindow::buildCanvasArea(QWidget* parent) {
 QWidget* MainWindow::buildScrollBar(QWidget* parent) {
   auto* bar = addPanel(widgets_, "HScroll1", new QScrollBar(Qt::Horizontal, parent));
   bar->setRange(0, kScrollMaximum);
-  // A drag reports its value when the thumb is let go.
-  bar->setTracking(false);
+  // A drag reports its values as the thumb moves.
+  bar->setTracking(true);
   // The canvas keeps the bar's room when it is hidden, so showing it resizes nothing.
   QSizePolicy policy = bar->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   bar->setSizePolicy(policy);
   widgets_.hscroll1 = bar;
-  const Procedure change = findProcedure("HScroll1_Change");
-  connect(bar, &QScrollBar::valueChanged, this, [this, change](int value) {
-    runCommand([this, value, change] {
-      state_.ui.hscroll1Value = value;
-      if (change) change(state_);
-    });
-  });
+  scrollChange_ = findProcedure("HScroll1_Change");
+  connect(bar, &QScrollBar::valueChanged, this, &MainWindow::scrollBarMoved);
   return bar;
+}
+
+// A redraw is not interrupted, and a drag sends values faster than a redraw ends: the values
+// that arrive meanwhile replace each other, and the latest is drawn next. The logic sees the
+// bar's value at once, unless a command is under way.
+void MainWindow::scrollBarMoved(int value) {
+  const bool queued = pendingScroll_.has_value();
+  pendingScroll_ = value;
+  if (running_ == 0) state_.ui.hscroll1Value = value;
+  if (!queued) QMetaObject::invokeMethod(this, &MainWindow::runPendingScroll, Qt::QueuedConnection);
+}
+
+void MainWindow::runPendingScroll() {
+  // A command that shows its progress lets queued calls through: the change waits for its end.
+  if (!pendingScroll_ || running_ > 0) return;
+  const int value = *pendingScroll_;
+  pendingScroll_.reset();
+  runCommand([this, value] {
+    state_.ui.hscroll1Value = value;
+    if (scrollChange_) scrollChange_(state_);
+  });
 }
 
 QWidget* MainWindow::buildStatusRow(QWidget* parent) {
@@ -204,7 +220,11 @@ void MainWindow::afterCommand() {
   }
   reflectControls(state_.ui, widgets_);
   widgets_.picture1->update();
-  if (state_.ui.closeRequested) close();
+  if (state_.ui.closeRequested) {
+    close();
+    return;
+  }
+  if (pendingScroll_) runPendingScroll();
 }
 
 void MainWindow::resizeCanvas(QSize size) {

@@ -52,6 +52,9 @@ class MainWindow : public QMainWindow {
   void runCommand(const std::function<void()>& command);
   void afterCommand();
   void resizeCanvas(QSize size);
+  // The scroll bar's changes: each value replaces the one still waiting to be drawn.
+  void scrollBarMoved(int value);
+  void runPendingScroll();
   void showProgress();
   void endWithFault(const QString& text);
 
@@ -63,6 +66,9 @@ class MainWindow : public QMainWindow {
   int running_ = 0;
   // A canvas resize that came while logic ran, applied when it has finished.
   std::optional<QSize> pendingResize_;
+  // The bar's latest value, not drawn yet, and the procedure that draws it.
+  std::optional<int> pendingScroll_;
+  Procedure scrollChange_ = nullptr;
   bool ended_ = false;
 };
 

@@ -88,6 +88,7 @@ class ScenarioRun {
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
     if (verb == "elevations") return elevations(words(rest));
+    if (verb == "scroll") return scroll(args);
     throw BadStatement("unknown statement \"" + verb + "\"");
   }
 
@@ -184,6 +185,16 @@ class ScenarioRun {
     Scan& scan = session_.state.scan;
     scan.upkot = toNumber(args[0]);
     scan.downkot = toNumber(args[1]);
+  }
+
+  // The scroll bar under the canvas set to a value, which runs its change event.
+  void scroll(const std::vector<std::string>& args) {
+    need(args, 1, "scroll takes VALUE");
+    const double value = numberArg(args[0]);
+    if (value < 0 || value > 360 || value != static_cast<int>(value))
+      throw BadStatement("scroll to a whole value of 0 to 360");
+    session_.state.ui.hscroll1Value = static_cast<int>(value);
+    session_.run("HScroll1_Change");
   }
 
   std::string folder_;
