@@ -1,9 +1,11 @@
 // trireserve-report: reserve tables, grade-tonnage curves, audits of triangles, bench scans
 // and workbook checks from the command line, over project files opened read-only.
+#include <QApplication>
 #include <chrono>
 #include <cstdio>
 #include <iostream>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -84,9 +86,8 @@ Arguments parse(int argc, char** argv) {
     }
   }
   if (a.positional.size() < 2) {
-    throw BadInput(command->first + (command->first == "check-workbook"
-                                         ? " wants a workbook file"
-                                         : " wants a project file"));
+    throw BadInput(command->first + (command->first == "check-workbook" ? " wants a workbook file"
+                                                                        : " wants a project file"));
   }
   if (a.positional.size() > 2) throw BadInput("unexpected argument \"" + a.positional[2] + "\"");
   return a;
@@ -115,7 +116,7 @@ class Progress {
   bool shown_ = false;
 };
 
-int run(const Arguments& a) {
+int run(const Arguments& a, int argc, char** argv) {
   namespace r = tri::report;
   Progress progress;
   r::Output o{std::cout, a.csv, [&](size_t d, size_t t, const char* w) { progress(d, t, w); }};
@@ -131,9 +132,13 @@ int run(const Arguments& a) {
     return r::bench(file, selection, a.required("--up"), a.required("--down"), o);
   }
   const std::optional<std::string> plot = a.optional("--plot");
-  if (plot && !r::isPlotPath(*plot)) throw BadInput("--plot wants a .png or .svg file, not " + *plot);
+  if (plot && !r::isPlotPath(*plot))
+    throw BadInput("--plot wants a .png or .svg file, not " + *plot);
   r::PlotWriter writer;
+  std::unique_ptr<QApplication> app;
   if (plot) {
+    r::prepareOffscreen();
+    app = std::make_unique<QApplication>(argc, argv);
     writer = [&](const std::vector<r::GradeTonnageRow>& rows, const std::string& title) {
       r::writeGradeTonnagePlot(rows, title, *plot);
     };
@@ -152,7 +157,7 @@ int main(int argc, char** argv) {
     }
   }
   try {
-    return run(parse(argc, argv));
+    return run(parse(argc, argv), argc, argv);
   } catch (const BadInput& bad) {
     std::cerr << "trireserve-report: " << bad.what() << "\n";
   } catch (const tri::Fault& fault) {

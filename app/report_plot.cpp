@@ -1,14 +1,15 @@
 #include "report_plot.h"
 
 #include <QApplication>
-#include <QGraphicsScene>
 #include <QImage>
 #include <QPainter>
 #include <QSvgGenerator>
 #include <QtCharts/QChart>
+#include <QtCharts/QChartView>
 #include <QtCharts/QLineSeries>
 #include <QtCharts/QValueAxis>
 #include <algorithm>
+#include <cstdio>
 #include <memory>
 
 #include "report/report_project.h"
@@ -24,24 +25,23 @@ std::string extensionOf(const std::string& path) {
   const size_t dot = path.rfind('.');
   if (dot == std::string::npos) return "";
   std::string ext = path.substr(dot + 1);
-  std::transform(ext.begin(), ext.end(), ext.begin(), [](unsigned char c) { return std::tolower(c); });
+  std::transform(ext.begin(), ext.end(), ext.begin(),
+                 [](unsigned char c) { return std::tolower(c); });
   return ext;
 }
 
-// A chart needs an application object; a run without a display draws offscreen.
-void ensureApplication() {
-  if (QApplication::instance()) return;
+}  // namespace
+
+void prepareOffscreen() {
+  // Qt's notes about its run-time folder and the offscreen plugin are no news to the user.
+  qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(text));
+  });
   if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
       qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
-  static int argc = 1;
-  static char name[] = "trireserve-report";
-  static char* argv[] = {name, nullptr};
-  static QApplication app(argc, argv);
 }
-
-}  // namespace
 
 bool isPlotPath(const std::string& path) {
   const std::string ext = extensionOf(path);
@@ -51,7 +51,6 @@ bool isPlotPath(const std::string& path) {
 void writeGradeTonnagePlot(const std::vector<GradeTonnageRow>& rows, const std::string& title,
                            const std::string& path) {
   if (!isPlotPath(path)) throw BadInput("--plot wants a .png or .svg file, not " + path);
-  ensureApplication();
 
   auto* tonnage = new QLineSeries;
   tonnage->setName("Ore tonnage (kt)");
@@ -69,10 +68,7 @@ void writeGradeTonnagePlot(const std::vector<GradeTonnageRow>& rows, const std::
   tonnage->setPen(QPen(QColor(0, 90, 170), 2.5));
   tenor->setPen(QPen(QColor(200, 60, 20), 2.5));
 
-  QGraphicsScene scene;
   auto* chart = new QChart;
-  scene.addItem(chart);
-  chart->setGeometry(0, 0, kWidth, kHeight);
   chart->setTitle(QString::fromStdString(title));
   chart->setAnimationOptions(QChart::NoAnimation);
   chart->addSeries(tonnage);
@@ -98,7 +94,12 @@ void writeGradeTonnagePlot(const std::vector<GradeTonnageRow>& rows, const std::
   tenor->attachAxis(cutoffAxis);
   tenor->attachAxis(tenorAxis);
   chart->legend()->setAlignment(Qt::AlignBottom);
-  scene.setSceneRect(0, 0, kWidth, kHeight);
+  // The view lays the chart out at its size before it is drawn.
+  QChartView view(chart);
+  view.setRenderHint(QPainter::Antialiasing);
+  view.resize(kWidth, kHeight);
+  view.show();
+  QApplication::processEvents();
 
   const QString file = QString::fromStdString(path);
   bool written = true;
@@ -111,7 +112,7 @@ void writeGradeTonnagePlot(const std::vector<GradeTonnageRow>& rows, const std::
     QPainter painter;
     written = painter.begin(&svg);
     if (written) {
-      scene.render(&painter);
+      view.render(&painter);
       painter.end();
     }
   } else {
@@ -119,7 +120,7 @@ void writeGradeTonnagePlot(const std::vector<GradeTonnageRow>& rows, const std::
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    scene.render(&painter);
+    view.render(&painter);
     painter.end();
     written = image.save(file, "PNG");
   }

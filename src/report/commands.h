@@ -25,10 +25,10 @@ int triangles(const std::string& path, const Selection& selection, Output& o);
 
 // --- grade-tonnage curves; `plot` is called with the rows when a picture is wanted ---
 struct GradeTonnageRow;
-using PlotWriter = std::function<void(const std::vector<GradeTonnageRow>& rows,
-                                      const std::string& title)>;
-int gradeTonnage(const std::string& path, const Selection& selection,
-                 const std::string& cutoffs, Output& o, const PlotWriter& plot);
+using PlotWriter =
+    std::function<void(const std::vector<GradeTonnageRow>& rows, const std::string& title)>;
+int gradeTonnage(const std::string& path, const Selection& selection, const std::string& cutoffs,
+                 Output& o, const PlotWriter& plot);
 
 // --- audits ---
 int explain(const std::string& path, const Selection& selection, const std::string& triangle,

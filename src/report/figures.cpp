@@ -147,12 +147,9 @@ std::vector<double> parseCutoffs(const std::string& text) {
 std::string verdictText(LayerVerdict verdict, const std::string& lithology,
                         std::optional<double> limit) {
   switch (verdict) {
-    case LayerVerdict::Counted:
-      return "counted";
-    case LayerVerdict::OtherLithology:
-      return "not counted: not " + lithology;
-    case LayerVerdict::CutBySelectCut:
-      return "not counted: cut out by Select-Cut";
+    case LayerVerdict::Counted: return "counted";
+    case LayerVerdict::OtherLithology: return "not counted: not " + lithology;
+    case LayerVerdict::CutBySelectCut: return "not counted: cut out by Select-Cut";
     case LayerVerdict::BelowLimit:
       return "not counted: tenor below the limit " + numberText(limit.value_or(0));
   }
@@ -178,8 +175,8 @@ Explanation explainTriangle(const StoredTriangle& triangle, const ProjectLogs& l
     ExplainedCorner& corner = e.corners[k];
     corner.hole = vertex.hole;
     corner.log = logs.hole(vertex.hole);
-    const std::string corner_ = "corner " + std::to_string(k) + " (hole " +
-                                std::to_string(vertex.hole) + ")";
+    const std::string corner_ =
+        "corner " + std::to_string(k) + " (hole " + std::to_string(vertex.hole) + ")";
     if (!corner.log) {
       e.causes.push_back(corner_ + " is no longer in the list of holes: holes were removed " +
                          "since the triangle was entered");

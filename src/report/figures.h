@@ -62,7 +62,7 @@ struct ExplainedLayer {
 };
 
 struct ExplainedCorner {
-  int hole = 0;  // the vertex row's hole number
+  int hole = 0;                  // the vertex row's hole number
   const HoleLog* log = nullptr;  // that hole of log now, if the list still has it
   std::vector<ExplainedLayer> layers;
   CornerSums sums;

@@ -83,8 +83,7 @@ std::vector<ReportProject::Limit> ReportProject::limits(const std::string& litho
 
 ReportProject::Resolved ReportProject::resolve(const Selection& selection) {
   const std::vector<std::string> lithologies = this->lithologies();
-  if (std::find(lithologies.begin(), lithologies.end(), selection.lithology) ==
-      lithologies.end()) {
+  if (std::find(lithologies.begin(), lithologies.end(), selection.lithology) == lithologies.end()) {
     throw BadInput("no lithology " + quoted(selection.lithology) + " in " + path_ +
                    " (it has: " + listed(lithologies) + ")");
   }
@@ -92,8 +91,8 @@ ReportProject::Resolved ReportProject::resolve(const Selection& selection) {
   if (std::find(drawings.begin(), drawings.end(), selection.drawing) == drawings.end() ||
       !db_.hasTable(selection.drawing)) {
     throw BadInput("no drawing " + quoted(selection.drawing) + " of lithology " +
-                   quoted(selection.lithology) + " in " + path_ + " (it has: " +
-                   listed(drawings) + ")");
+                   quoted(selection.lithology) + " in " + path_ + " (it has: " + listed(drawings) +
+                   ")");
   }
   Resolved resolved{selection.drawing, std::nullopt};
   if (!selection.limit) return resolved;

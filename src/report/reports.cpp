@@ -1,5 +1,5 @@
-#include <cmath>
 #include <algorithm>
+#include <cmath>
 
 #include "platform/fault.h"
 #include "platform/sheet.h"
@@ -42,8 +42,8 @@ int triangles(const std::string& path, const Selection& selection, Output& o) {
   const ReportProject::Resolved resolved = project.resolve(selection);
   const std::vector<StoredTriangle> triangles = project.readTriangles(resolved.table);
   const ProjectLogs logs = project.readLogs();
-  TextTable table({"triangle", "corner 1", "corner 2", "corner 3", "area m2", "length m",
-                   "tenor %", "density", "cubage 1000m3", "tonnage kt", "reserve kt"});
+  TextTable table({"triangle", "corner 1", "corner 2", "corner 3", "area m2", "length m", "tenor %",
+                   "density", "cubage 1000m3", "tonnage kt", "reserve kt"});
   for (const StoredTriangle& t : triangles) {
     table.add({std::to_string(t.number), holeName(logs, t.vertices[1].hole),
                holeName(logs, t.vertices[2].hole), holeName(logs, t.vertices[3].hole),
@@ -70,16 +70,16 @@ int gradeTonnage(const std::string& path, const Selection& selection, const std:
                  Output& o, const PlotWriter& plot) {
   const std::vector<double> values = parseCutoffs(cutoffs);
   ReportProject project(path);
-  const ReportProject::Resolved resolved = project.resolve({selection.lithology,
-                                                            selection.drawing, std::nullopt});
+  const ReportProject::Resolved resolved =
+      project.resolve({selection.lithology, selection.drawing, std::nullopt});
   const std::vector<StoredTriangle> triangles = project.readTriangles(resolved.table);
   const ProjectLogs logs = project.readLogs();
   const std::vector<GradeTonnageRow> rows =
       report::gradeTonnage(triangles, logs, selection.lithology, values, [&](size_t done) {
         if (o.progress) o.progress(done, values.size(), "cut-offs");
       });
-  TextTable table({"cut-off %", "ore triangles", "tonnage kt", "mean tenor %", "reserve kt",
-                   "cubage 1000m3"});
+  TextTable table(
+      {"cut-off %", "ore triangles", "tonnage kt", "mean tenor %", "reserve kt", "cubage 1000m3"});
   for (const GradeTonnageRow& row : rows) {
     table.add({numberText(row.cutoff), std::to_string(row.oreTriangles), fixed(row.tonnage, 3),
                optionalText(row.meanTenor, 5), fixed(row.reserve, 3), fixed(row.cubage, 3)});
@@ -113,11 +113,12 @@ int explain(const std::string& path, const Selection& selection, const std::stri
   const Explanation e = explainTriangle(*found, logs, selection.lithology, limit);
 
   std::ostream& out = o.out;
-  if (!o.csv) out << "Triangle " << found->number << " of " << tableTitle(selection, resolved) << "\n";
-  TextTable layers({"corner", "hole", "layer", "lithology", "tenor %", "density", "length m",
-                    "verdict"});
-  TextTable corners({"corner", "hole", "x", "y", "ore length m", "S1", "S2", "S3", "S4",
-                     "tenor %", "density"});
+  if (!o.csv)
+    out << "Triangle " << found->number << " of " << tableTitle(selection, resolved) << "\n";
+  TextTable layers(
+      {"corner", "hole", "layer", "lithology", "tenor %", "density", "length m", "verdict"});
+  TextTable corners(
+      {"corner", "hole", "x", "y", "ore length m", "S1", "S2", "S3", "S4", "tenor %", "density"});
   for (int k = 1; k <= 3; ++k) {
     const ExplainedCorner& c = e.corners[k];
     const VertexRow& v = found->vertices[k];
@@ -128,8 +129,8 @@ int explain(const std::string& path, const Selection& selection, const std::stri
                   numberText(l.layer.ten), numberText(l.layer.yog), numberText(l.layer.uz),
                   verdictText(l.verdict, selection.lithology, limit)});
     }
-    corners.add({std::to_string(k), name + " (no. " + std::to_string(c.hole) + ")",
-                 numberText(v.x), numberText(v.y), numberText(c.length), numberText(c.sums.s1),
+    corners.add({std::to_string(k), name + " (no. " + std::to_string(c.hole) + ")", numberText(v.x),
+                 numberText(v.y), numberText(c.length), numberText(c.sums.s1),
                  numberText(c.sums.s2), numberText(c.sums.s3), numberText(c.sums.s4),
                  numberText(c.tenor), numberText(c.density)});
   }
@@ -177,12 +178,12 @@ int bench(const std::string& path, const Selection& selection, const std::string
       resolved.limit ? std::optional<double>(resolved.limit->value) : std::nullopt;
   const std::vector<BenchRow> rows =
       benchScan(project, triangles, elevations, selection.lithology, limit);
-  TextTable table({"triangle", "area m2", "length m", "density", "tenor %", "tonnage kt",
-                   "reserve kt"});
+  TextTable table(
+      {"triangle", "area m2", "length m", "density", "tenor %", "tonnage kt", "reserve kt"});
   for (const BenchRow& row : rows) {
     table.add({std::to_string(row.number), fixed(row.area, 3), fixed(row.means.length, 3),
-               fixed(row.means.density, 3), fixed(row.means.tenor, 2),
-               fixed(row.tonnage / 1000, 3), fixed(row.reserve / 1000, 2)});
+               fixed(row.means.density, 3), fixed(row.means.tenor, 2), fixed(row.tonnage / 1000, 3),
+               fixed(row.reserve / 1000, 2)});
   }
   const BenchTotals totals = benchTotals(rows);
   table.add({"total", fixed(totals.area, 3), "", "", optionalText(totals.meanTenor, 2),

@@ -73,8 +73,8 @@ class Checker {
           "the name " + quoted(name) + " marks a point, not a hole: the list of holes ends " +
               "here, and this hole and those after it are not seen in the plan");
     }
-    static const char* const kHeader[] = {"", "", "", "", "hole entry", "ore entry",
-                                          "ore exit", "hole exit"};
+    static const char* const kHeader[] = {"",           "",          "",         "",
+                                          "hole entry", "ore entry", "ore exit", "hole exit"};
     for (int row = 4; row <= 7; ++row) number(row, i, kHeader[row]);
     checkBlankInside(i, rows);
     if (rows < 7) {
@@ -123,8 +123,7 @@ class Checker {
       if (!sheet_.cell(row, i).isEmpty()) {
         add(i, rows + 1,
             "a blank cell inside the log: the column ends here, " + std::to_string(rows) +
-                " rows are read and the cells from row " + std::to_string(row) +
-                " on are lost");
+                " rows are read and the cells from row " + std::to_string(row) + " on are lost");
         return;
       }
     }

@@ -52,7 +52,7 @@ case "$1" in
     run --csv triangles "$OUT/locked.mdb" "${SEL[@]}"
     expect_code 0
     [ "$out" = "$first" ] || fail "the write-protected copy reads otherwise"
-    rm -f "$OUT/locked.mdb"
+    rm -f "$OUT"/locked.mdb*  # a read-only reader leaves the journal files it opened
     [ "$(md5sum <"$P")" = "$before" ] || fail "the project file changed"
     ;;
   grade_tonnage_limits)
@@ -71,7 +71,8 @@ case "$1" in
     curve=$(grep -m1 "^0," <<<"$out")
     run --csv triangles "$P" "${SEL[@]}"
     total=$(grep -m1 '^total,' <<<"$out")
-    [ "$(cut -d, -f3,5,6 <<<"$curve")" = "$(cut -d, -f10,11,9 <<<"$total")" ] || fail "cut-off 0: $curve / $total"
+    [ "$(cut -d, -f3,5,6 <<<"$curve")" = "$(cut -d, -f10,11,9 <<<"$total" | awk -F, '{ print $2 "," $3 "," $1 }')" ] ||
+      fail "cut-off 0: $curve / $total"
     ;;
   plot)
     rm -f "$OUT/demo-grade-tonnage.png" "$OUT/demo-grade-tonnage.svg"

@@ -23,8 +23,12 @@ void makeDemo(const std::string& path) {
   s.dialogs.answerInput("North");
   s.run("Mncizek_Click");
   // DH-01, DH-02, DH-04; then DH-02, DH-05, DH-04
-  for (auto [x, y] : {std::pair{1108.0, 2001.0}, {1289, 2000}, {1153.4, 2067.9}, {1290, 2001},
-                      {1250, 2079}, {1153, 2068}}) {
+  for (auto [x, y] : {std::pair{1108.0, 2001.0},
+                      {1289, 2000},
+                      {1153.4, 2067.9},
+                      {1290, 2001},
+                      {1250, 2079},
+                      {1153, 2068}}) {
     s.click(x, y);
   }
   for (const char* limit : {"0.5", "1"}) {
