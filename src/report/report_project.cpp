@@ -114,6 +114,15 @@ ReportProject::Resolved ReportProject::resolve(const Selection& selection) {
                  " (it has: " + listed(names) + ")");
 }
 
+namespace {
+
+// A figure of a summary row; one its writer left empty reads as 0.
+double figure(const Recordset& row, const char* field) {
+  return row.isNull(field) ? 0 : row.number(field) / 1000;
+}
+
+}  // namespace
+
 std::vector<StoredTriangle> ReportProject::readTriangles(const std::string& name) {
   Recordset table = db_.openTable(name);
   std::vector<StoredTriangle> triangles;
@@ -128,13 +137,13 @@ std::vector<StoredTriangle> ReportProject::readTriangles(const std::string& name
     }
     table.moveNext();
     triangle.number = static_cast<int>(table.number(field::ucgensay));
-    triangle.length = table.number(field::ilkuz) / 1000;
-    triangle.tenor = table.number(field::geneltenor) / 1000;
-    triangle.density = table.number(field::genelyog) / 1000;
-    triangle.area = table.number(field::ill) / 1000;
-    triangle.cubage = table.number(field::kubaj) / 1000;
-    triangle.tonnage = table.number(field::tonaj) / 1000;
-    triangle.reserve = table.number(field::genelrezerv) / 1000;
+    triangle.length = figure(table, field::ilkuz);
+    triangle.tenor = figure(table, field::geneltenor);
+    triangle.density = figure(table, field::genelyog);
+    triangle.area = figure(table, field::ill);
+    triangle.cubage = figure(table, field::kubaj);
+    triangle.tonnage = figure(table, field::tonaj);
+    triangle.reserve = figure(table, field::genelrezerv);
     triangles.push_back(std::move(triangle));
   }
   return triangles;
