@@ -133,6 +133,9 @@ class Database {
   // Opens an existing file; a missing file, or one that is not a project database, is a
   // Fault that says so.
   static Database open(const std::string& path);
+  // Opens an existing file for reading only, the same checks first; every write is a Fault
+  // of the engine, and a program that writes the file meanwhile is never held up.
+  static Database openReadOnly(const std::string& path);
 
   Database(Database&&) noexcept;
   Database& operator=(Database&&) noexcept;

@@ -155,10 +155,10 @@ void TableInfo::finalize() {
   positioned = false;
 }
 
-std::shared_ptr<Connection> Connection::connect(const std::string& path) {
+std::shared_ptr<Connection> Connection::connect(const std::string& path, bool readOnly) {
   sqlite3* raw = nullptr;
-  int rc =
-      sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+  const int mode = readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+  int rc = sqlite3_open_v2(path.c_str(), &raw, mode | SQLITE_OPEN_NOMUTEX, nullptr);
   auto connection = std::make_shared<Connection>();
   connection->path = path;
   connection->db = SqliteConnection(raw);

@@ -99,7 +99,8 @@ struct Connection {
   ~Connection() { close(); }
 
   // Opens an existing database file for reading and writing, with the journal of the store.
-  static std::shared_ptr<Connection> connect(const std::string& path);
+  // Read-only: the engine refuses every write, and readers never stand in a writer's way.
+  static std::shared_ptr<Connection> connect(const std::string& path, bool readOnly = false);
   bool isOpen() const { return db.isOpen(); }
   [[noreturn]] void engineFault(const std::string& what) const;
   // Builds the message while the statement still holds the failure, then ends its run.
