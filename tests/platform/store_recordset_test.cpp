@@ -214,6 +214,37 @@ TEST_F(StoreEditing, EditWritesTheRowBackAndCancelDropsTheBuffer) {
   EXPECT_EQ(reopened.text("s"), "stored");
 }
 
+TEST_F(StoreEditing, UpdateFieldWritesOneFieldAsEditSetUpdateWould) {
+  Recordset rs = rowsUpTo(3);
+  Recordset other = db_.openTable("t");
+  rs.moveNext();
+  other.moveNext();
+  other.get("n");  // a positioned read that the write must not leave stale
+  rs.updateField("n", 20.5);
+  rs.moveNext();
+  rs.updateField("s", 7);  // a number into a text field, as set() takes it
+  EXPECT_EQ(other.number("n"), 20) << "rounded half to even, as set() rounds";
+  EXPECT_EQ(other.text("s"), "row 2");
+  rs.movePrevious();
+  EXPECT_EQ(rs.number("n"), 20);
+  rs.moveLast();
+  EXPECT_EQ(rs.text("s"), "7");
+  EXPECT_EQ(rs.number("n"), 3);
+
+  rs.edit();
+  rs.set("s", "dropped");
+  rs.updateField("n", 30);  // an unfinished edit goes, as a new edit() drops it
+  EXPECT_EQ(rs.text("s"), "7");
+  EXPECT_TRUE(faults([&] { rs.updateField("n", 3e9); }, FaultKind::Overflow, {"\"n\""}));
+  EXPECT_TRUE(faults([&] { rs.updateField("m", 1); }, FaultKind::Database, {"\"m\""}));
+  other.moveLast();
+  other.remove();
+  EXPECT_TRUE(faults([&] { rs.updateField("n", 1); }, FaultKind::Database, {"Record is deleted"}));
+  rs.moveNext();
+  EXPECT_TRUE(faults([&] { rs.updateField("n", 1); }, FaultKind::NoCurrentRecord, {"\"t\""}));
+  EXPECT_EQ(walk(rs), (std::vector<int>{1, 20}));
+}
+
 TEST_F(StoreEditing, ADeletedRowStaysCurrentUntilTheNextMove) {
   Recordset rs = rowsUpTo(6);
   rs.move(2);
