@@ -22,6 +22,8 @@ struct MouseRow {
 
 bool never(const State&) { return false; }
 bool entryMode(const State& s) { return s.flags.modcizim; }
+bool cikartMode(const State& s) { return s.flags.modcikart; }
+bool ucsecMode(const State& s) { return s.flags.moducsec; }
 
 void enterTriangle(State& s, int button, float x, float y) { ucgeciz(s, x, y, button); }
 
@@ -39,8 +41,8 @@ const MouseRow kMouseDownChain[] = {
     {never, nullptr},            // start of a drag (right)
     {never, nullptr},            // triangle selection for digitizing (left)
     {never, nullptr},            // scan selection (left)
-    {never, nullptr},            // hole removal
-    {never, nullptr},            // triangle removal
+    {cikartMode, removeHoleAt},  // hole removal
+    {ucsecMode, pickCornerAt},   // triangle removal
     {never, nullptr},            // overlays (left)
     {entryMode, enterTriangle},  // triangle entry, every button
 };

@@ -37,8 +37,8 @@ const ReplayRow kReplay[] = {
     {&Flags::modrezton, nullptr, nullptr},       // reserve tonnage map
     {&Flags::modgenelrezerv, nullptr, nullptr},  // general reserve map
     {&Flags::modrecboy, nullptr, nullptr},       // 3D reserve view
-    {&Flags::modcikart, nullptr, nullptr},       // hole removal
-    {&Flags::moducsec, nullptr, nullptr},        // triangle removal
+    {&Flags::modcikart, nullptr, Mncikart_Click},
+    {&Flags::moducsec, nullptr, Mnucsec_Click},  // triangle removal
     {&Flags::modcizim, nullptr, ucgenplan},      // triangle entry: the network
 };
 
