@@ -5,6 +5,7 @@
 #include <iostream>
 #include <sstream>
 
+#include "support/headless.h"
 #include "support/scenario.h"
 
 namespace {
@@ -24,7 +25,7 @@ int main(int argc, char** argv) {
     std::cerr << "usage: trireserve-scenario FILE [EXPECTED]\n";
     return tri::kScenarioBadStatement;
   }
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  tri::prepareHeadlessQt();
   QGuiApplication app(argc, argv);
   std::ostringstream out;
   const int code = tri::runScenarioFile(argv[1], out, std::cerr);

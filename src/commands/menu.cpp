@@ -5,7 +5,9 @@
 #include "canvas/commands.h"
 #include "limit/commands.h"
 #include "project/commands.h"
+#include "scan/commands.h"
 #include "triangles/commands.h"
+#include "views/commands.h"
 
 namespace tri {
 
@@ -38,15 +40,15 @@ const std::vector<MenuItem>& menuItems() {
       {"Mnlimsil", "Mnlimten", "&Delete", "", Mnlimsil_Click, false},
       {"Mntara", "Mnharita", "&Scan", "", nullptr, false},
       {"Mntveri", "Mntara", "&Data", "", nullptr, false},
-      {"Mntkot", "Mntveri", "&Elevation", "", nullptr, false},
-      {"Mntiklama", "Mntveri", "&Select", "", nullptr, false},
-      {"Mnttem", "Mntveri", "&Clear", "", nullptr, false},
-      {"Mntrtek", "Mntara", "&Single", "", nullptr, false},
-      {"Mntrtum", "Mntara", "&All", "", nullptr, false},
+      {"Mntkot", "Mntveri", "&Elevation", "", Mntkot_Click, false},
+      {"Mntiklama", "Mntveri", "&Select", "", Mntiklama_Click, false},
+      {"Mnttem", "Mntveri", "&Clear", "", Mnttem_Click, false},
+      {"Mntrtek", "Mntara", "&Single", "", Mntrtek_Click, false},
+      {"Mntrtum", "Mntara", "&All", "", Mntrtum_Click, false},
       {"Mntenörler", "Mnharita", "&2D", "", nullptr, false},
-      {"Mnyuzdeten", "Mntenörler", "&Tenor(%)", "Ctrl+Q", nullptr, false},
-      {"Mnrezton", "Mntenörler", "&Reserve(ton)", "Ctrl+W", nullptr, false},
-      {"Mngenelrezervler", "Mntenörler", "Reserve", "Ctrl+X", nullptr, false},
+      {"Mnyuzdeten", "Mntenörler", "&Tenor(%)", "Ctrl+Q", Mnyuzdeten_Click, false},
+      {"Mnrezton", "Mntenörler", "&Reserve(ton)", "Ctrl+W", Mnrezton_Click, false},
+      {"Mngenelrezervler", "Mntenörler", "Reserve", "Ctrl+X", Mngenelrezervler_Click, false},
       {"Mn3bo", "Mnharita", "&3D", "", nullptr, false},
       {"Mnrecboy", "Mn3bo", "&Reserve", "Ctrl+V", nullptr, false},
       // Production
@@ -91,14 +93,14 @@ const std::vector<MenuItem>& menuItems() {
       {"Mntoprez", "Mnekle", "&Total Reserve", "", nullptr, true},
       {"Mnskala", "Mnekle", "&Dial", "", nullptr, true},
       {"Mngostersakla", "Mnduzen", "&Show/Hide", "", nullptr, false},
-      {"Mnsndjgoster", "Mngostersakla", "&Drilling Names", "", nullptr, true},
-      {"Mnmiktrgoster", "Mngostersakla", "&Quantity", "", nullptr, true},
-      {"Mngridgoster", "Mngostersakla", "&Grids", "", nullptr, true},
+      {"Mnsndjgoster", "Mngostersakla", "&Drilling Names", "", Mnsndjgoster_Click, true},
+      {"Mnmiktrgoster", "Mngostersakla", "&Quantity", "", Mnmiktrgoster_Click, true},
+      {"Mngridgoster", "Mngostersakla", "&Grids", "", Mngridgoster_Click, true},
       {"Mnrenk", "Mnduzen", "&Colors", "", nullptr, false},
-      {"Mnrenksec", "Mnrenk", "&Select-Cut", "", nullptr, false},
-      {"MNrrezerv", "Mnrenk", "&Reserve", "", nullptr, false},
-      {"Mnrmiktr", "Mnrenk", "&Quantity", "", nullptr, false},
-      {"Mnrgrid", "Mnrenk", "&Grids", "", nullptr, false},
+      {"Mnrenksec", "Mnrenk", "&Select-Cut", "", Mnrenksec_Click, false},
+      {"MNrrezerv", "Mnrenk", "&Reserve", "", MNrrezerv_Click, false},
+      {"Mnrmiktr", "Mnrenk", "&Quantity", "", Mnrmiktr_Click, false},
+      {"Mnrgrid", "Mnrenk", "&Grids", "", Mnrgrid_Click, false},
   };
   return items;
 }

@@ -2,6 +2,7 @@
 #include "commands/procedures.h"
 #include "platform/store.h"
 #include "platform/vbtext.h"
+#include "scan/commands.h"
 #include "store/hole_lists.h"
 #include "store/project_format.h"
 #include "triangles/commands.h"
@@ -22,30 +23,33 @@ struct MouseRow {
 
 bool never(const State&) { return false; }
 bool entryMode(const State& s) { return s.flags.modcizim; }
-bool cikartMode(const State& s) { return s.flags.modcikart; }
-bool ucsecMode(const State& s) { return s.flags.moducsec; }
+bool cikartOn(const State& s) { return s.flags.modcikart; }
+bool ucsecOn(const State& s) { return s.flags.moducsec; }
 
 void enterTriangle(State& s, int button, float x, float y) { ucgeciz(s, x, y, button); }
 
 // The chain, in its required order. Every row whose test holds runs: a branch does not
 // end the chain.
+// clang-format off
 const MouseRow kMouseDownChain[] = {
-    {never, nullptr},            // production totals (right)
-    {never, nullptr},            // production averages (right)
-    {never, nullptr},            // area selection, second pass (left)
-    {never, nullptr},            // digitized closing (left)
-    {never, nullptr},            // scan of all triangles (right)
-    {never, nullptr},            // scan of one triangle (right)
-    {never, nullptr},            // production area by points
-    {never, nullptr},            // production area drawn freely
-    {never, nullptr},            // start of a drag (right)
-    {never, nullptr},            // triangle selection for digitizing (left)
-    {never, nullptr},            // scan selection (left)
-    {cikartMode, removeHoleAt},  // hole removal
-    {ucsecMode, pickCornerAt},   // triangle removal
-    {never, nullptr},            // overlays (left)
-    {entryMode, enterTriangle},  // triangle entry, every button
+    // test        handler
+    {never,        nullptr},        // production totals (right)
+    {never,        nullptr},        // production averages (right)
+    {never,        nullptr},        // area selection, second pass (left)
+    {never,        nullptr},        // digitized closing (left)
+    {trtumOn,      trtumDown},      // scan of all triangles (right)
+    {trtekOn,      trtekDown},      // scan of one triangle (right)
+    {never,        nullptr},        // production area by points
+    {never,        nullptr},        // production area drawn freely
+    {never,        nullptr},        // start of a drag (right)
+    {never,        nullptr},        // triangle selection for digitizing (left)
+    {tiklamaOn,    tiklamaDown},    // scan selection (left)
+    {cikartOn,     removeHoleAt},   // hole removal
+    {ucsecOn,      pickCornerAt},   // triangle removal
+    {never,        nullptr},        // overlays (left)
+    {entryMode,    enterTriangle},  // triangle entry, every button
 };
+// clang-format on
 
 }  // namespace
 

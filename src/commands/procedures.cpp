@@ -5,7 +5,9 @@
 #include "canvas/commands.h"
 #include "commands/menu.h"
 #include "project/commands.h"
+#include "scan/commands.h"
 #include "triangles/commands.h"
+#include "views/commands.h"
 
 namespace tri {
 
@@ -20,27 +22,30 @@ const ProcedureEntry kControlEvents[] = {
 
 // The redraw replay, in its required order: the production, scan and digitizing tools,
 // then from the tenor map on the tail that the selectors also run.
+// clang-format off
 const ReplayRow kReplay[] = {
-    {&Flags::modselan, nullptr, nullptr},        // area selection
-    {&Flags::modsucgen, nullptr, nullptr},       // triangle selection
-    {&Flags::modurcev, nullptr, nullptr},        // digitized closing, and its points
-    {&Flags::modselan2, nullptr, nullptr},       // area selection, second pass
-    {&Flags::modurort, nullptr, nullptr},        // production averages
-    {&Flags::moduretopr, nullptr, nullptr},      // production totals
-    {&Flags::modsucgen2, ucgenplan, nullptr},    // triangle selection over the network
-    {&Flags::modureciz2, ucgenplan, nullptr},    // production areas over the network
-    {&Flags::modureciz, nullptr, nullptr},       // production areas
-    {&Flags::modtiklama, ucgenplan, nullptr},    // scan selection
-    {&Flags::modtrtek, nullptr, nullptr},        // scan of one triangle
-    {&Flags::modtrtum, nullptr, nullptr},        // scan of all triangles
-    {&Flags::modyuzdeten, nullptr, nullptr},     // tenor map
-    {&Flags::modrezton, nullptr, nullptr},       // reserve tonnage map
-    {&Flags::modgenelrezerv, nullptr, nullptr},  // general reserve map
-    {&Flags::modrecboy, nullptr, nullptr},       // 3D reserve view
-    {&Flags::modcikart, nullptr, Mncikart_Click},
-    {&Flags::moducsec, nullptr, Mnucsec_Click},  // triangle removal
-    {&Flags::modcizim, nullptr, ucgenplan},      // triangle entry: the network
+    // flag                   first      procedure
+    {&Flags::modselan,       nullptr,   nullptr},                 // area selection
+    {&Flags::modsucgen,      nullptr,   nullptr},                 // triangle selection
+    {&Flags::modurcev,       nullptr,   nullptr},                 // digitized closing, and its points
+    {&Flags::modselan2,      nullptr,   nullptr},                 // area selection, second pass
+    {&Flags::modurort,       nullptr,   nullptr},                 // production averages
+    {&Flags::moduretopr,     nullptr,   nullptr},                 // production totals
+    {&Flags::modsucgen2,     ucgenplan, nullptr},                 // triangle selection over the network
+    {&Flags::modureciz2,     ucgenplan, nullptr},                 // production areas over the network
+    {&Flags::modureciz,      nullptr,   nullptr},                 // production areas
+    {&Flags::modtiklama,     ucgenplan, Mntiklama_Click},         // scan selection
+    {&Flags::modtrtek,       nullptr,   Mntrtek_Click},           // scan of one triangle
+    {&Flags::modtrtum,       nullptr,   Mntrtum_Click},           // scan of all triangles
+    {&Flags::modyuzdeten,    nullptr,   Mnyuzdeten_Click},        // tenor map
+    {&Flags::modrezton,      nullptr,   Mnrezton_Click},          // reserve tonnage map
+    {&Flags::modgenelrezerv, nullptr,   Mngenelrezervler_Click},  // general reserve map
+    {&Flags::modrecboy,      nullptr,   nullptr},                 // 3D reserve view
+    {&Flags::modcikart,      nullptr,   Mncikart_Click},          // hole removal
+    {&Flags::moducsec,       nullptr,   Mnucsec_Click},           // triangle removal
+    {&Flags::modcizim,       nullptr,   ucgenplan},               // triangle entry: the network
 };
+// clang-format on
 
 }  // namespace
 

@@ -2,24 +2,17 @@
 #include "platform/sheet.h"
 
 #include <freexl.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <algorithm>
-#include <cerrno>
-#include <chrono>
-#include <cstdint>
 #include <cstdio>
-#include <exception>
 #include <optional>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "platform/compound_file.h"
 #include "platform/fault.h"
 #include "platform/vbtext.h"
+#include "platform/xls_guard.h"
+#include "platform/xls_worksheet.h"
 
 namespace tri {
 
@@ -153,65 +146,10 @@ Cell cellFrom(const FreeXL_CellValue& value) {
   return cell;
 }
 
-// FreeXL 1.0.6 can crash or corrupt memory on some damaged workbooks (a single changed byte in
-// the workbook records is enough). A child process reads the whole first sheet first, so such a
-// file ends only the child; the program then reads the file itself.
-enum class TrialRead { Passed, Crashed, Hung };
-
-// The index of the sheet named `name` among FreeXL's worksheets; the first sheet when no
-// name is known or none has it.
-unsigned short worksheetNamed(const void* handle, const std::optional<std::string>& name) {
-  unsigned count = 0;
-  if (!name || freexl_get_info(handle, FREEXL_BIFF_SHEET_COUNT, &count) != FREEXL_OK) return 0;
-  for (unsigned short index = 0; index < count; ++index) {
-    const char* found = nullptr;
-    if (freexl_get_worksheet_name(handle, index, &found) == FREEXL_OK && found && *name == found)
-      return index;
-  }
-  return 0;
-}
-
-// In the child: FreeXL only, then _exit, so no handler of the parent runs twice.
-[[noreturn]] void readEverythingAndExit(const char* path, const std::optional<std::string>& sheet) {
-  const void* handle = nullptr;
-  if (freexl_open(path, &handle) == FREEXL_OK &&
-      freexl_select_active_worksheet(handle, worksheetNamed(handle, sheet)) == FREEXL_OK) {
-    unsigned rows = 0;
-    unsigned short columns = 0;
-    if (freexl_worksheet_dimensions(handle, &rows, &columns) == FREEXL_OK) {
-      FreeXL_CellValue value;
-      for (unsigned row = 0; row < rows; ++row) {
-        for (unsigned short column = 0; column < columns; ++column) {
-          freexl_get_cell_value(handle, row, column, &value);
-        }
-      }
-    }
-  }
-  if (handle) freexl_close(handle);
-  _exit(0);
-}
-
-TrialRead trialRead(const std::string& path, const std::optional<std::string>& sheet) {
-  constexpr auto kPatience = std::chrono::seconds(60);
-  pid_t child = fork();
-  if (child < 0) return TrialRead::Passed;  // no child to spare: read in-process as before
-  if (child == 0) readEverythingAndExit(path.c_str(), sheet);
-  auto deadline = std::chrono::steady_clock::now() + kPatience;
-  auto pause = std::chrono::microseconds(200);
-  int status = 0;
-  for (;;) {
-    pid_t done = waitpid(child, &status, WNOHANG);
-    if (done == child) break;
-    if (done < 0 && errno != EINTR) return TrialRead::Passed;
-    if (std::chrono::steady_clock::now() > deadline) {
-      kill(child, SIGKILL);
-      waitpid(child, &status, 0);
-      return TrialRead::Hung;
-    }
-    std::this_thread::sleep_for(pause);
-    pause = std::min<std::chrono::microseconds>(pause * 2, std::chrono::milliseconds(20));
-  }
-  return WIFEXITED(status) && WEXITSTATUS(status) == 0 ? TrialRead::Passed : TrialRead::Crashed;
+// The guard's probe, found once: where it is does not change while the program runs.
+TrialRead guardedTrialRead(const std::string& path, const std::optional<std::string>& sheet) {
+  static const std::optional<std::string> probe = findXlsProbe();
+  return probe ? trialRead(*probe, path, sheet) : TrialRead::NotStarted;
 }
 
 class XlsSheet : public Sheet {
@@ -220,10 +158,12 @@ class XlsSheet : public Sheet {
     CompoundFile container(path);
     if (container.hasDamagedEntryName()) workbookFault(path_, "the file's directory is damaged");
     const std::optional<std::string> activeSheet = container.activeSheetName();
-    switch (trialRead(path, activeSheet)) {
+    switch (guardedTrialRead(path, activeSheet)) {
       case TrialRead::Crashed: workbookFault(path_, "the file is badly damaged");
       case TrialRead::Hung: workbookFault(path_, "reading the file did not come to an end");
-      case TrialRead::Passed: break;
+      case TrialRead::Passed:
+      case TrialRead::NotStarted:  // no probe to spare: the program reads unguarded
+        break;
     }
     check(freexl_open(path.c_str(), xls_.out()));
     if (!xls_.get()) workbookFault(path_, "the file holds no workbook");

@@ -44,6 +44,14 @@ size_t NoCaseHash::operator()(std::string_view text) const {
   return hash;
 }
 
+Connection& liveConnection(const std::shared_ptr<Connection>& connection) {
+  if (!connection) fail(FaultKind::Database, "the project database was moved to another variable");
+  if (!connection->isOpen()) {
+    fail(FaultKind::Database, "the project database " + shown(connection->path) + " is closed");
+  }
+  return *connection;
+}
+
 }  // namespace store_internal
 
 namespace {

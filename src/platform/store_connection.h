@@ -130,4 +130,9 @@ struct Connection {
   void setJournal();
 };
 
+namespace store_internal {
+// The connection of a Database, with a Fault for one that was moved away or closed.
+Connection& liveConnection(const std::shared_ptr<Connection>& connection);
+}  // namespace store_internal
+
 }  // namespace tri

@@ -187,6 +187,8 @@ struct Display {
   Bounded<double> y1{"ucgen y1", 999};
   Bounded<double> y2{"ucgen y2", 999};
   Bounded<double> y3{"ucgen y3", 999};
+  // The number of triangles drawn, whose corners the arrays hold.
+  int ucgendraw = 0;
 };
 
 // Values that carry from one command to another without a home elsewhere.

@@ -23,6 +23,7 @@ void drawNetwork(State& s, Recordset& table) {
   Canvas& c = s.canvas;
   Display& d = s.display;
   const int count = triangleCount(table);
+  d.ucgendraw = count;
   for (int t = 1; t <= count; ++t) {
     c.drawWidth = 1;
     c.foreColor = 0;
@@ -56,7 +57,10 @@ void ucgenplan(State& s) {
   frameFit(s, LimitWording::Plain);
   drawGrid(s);
   const std::optional<std::string> tableName = selectedTable(s);
-  if (!tableName) return;
+  if (!tableName) {
+    s.display.ucgendraw = 0;
+    return;
+  }
   Recordset table = db.openTable(*tableName);
   drawNetwork(s, table);
   for (int i = 1; i <= s.holes.sondsay; ++i) drawHolePoint(s, i);

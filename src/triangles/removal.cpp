@@ -114,7 +114,7 @@ void renumber(Recordset& table, int from, int to) {
   for (int i = from; i <= to; ++i) {
     table.move(4);
     if (table.get(field::ucgensay) == Value(i)) continue;
-    table.updateField(field::ucgensay, i);
+    renumberSummaryRow(table, i);
   }
 }
 
@@ -239,8 +239,8 @@ void Mncikart_Click(State& s) {
   removeMarkers(s);
   clearModeFlags(s);
   s.flags.modcikart = true;
-  disableEntryMenuItems(s);
   // then: disarm the overlays
+  disableEntryMenuItems(s);
   s.ui.setLabel(1, "Choose Point (Right Click: Cancel)");
   ucgenplan(s);
 }

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <string_view>
+#include <vector>
 
 #include "platform/fault.h"
 
@@ -13,7 +13,7 @@ namespace tri {
 
 template <typename Action>
 testing::AssertionResult faults(Action action, FaultKind kind,
-                                std::initializer_list<std::string_view> mentions) {
+                                const std::vector<std::string_view>& mentions) {
   try {
     action();
   } catch (const Fault& fault) {

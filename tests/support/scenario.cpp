@@ -15,12 +15,13 @@ namespace tri {
 
 namespace {
 
-struct BadStatement : std::runtime_error {
-  using std::runtime_error::runtime_error;
+// A statement that stops the run with an exit code: a bad statement or an unmet expectation.
+struct Stop : std::runtime_error {
+  Stop(int exitCode, const std::string& why) : std::runtime_error(why), code(exitCode) {}
+  int code;
 };
-struct ExpectationFailed : std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
+Stop BadStatement(const std::string& why) { return Stop(kScenarioBadStatement, why); }
+Stop ExpectationFailed(const std::string& why) { return Stop(kScenarioExpectation, why); }
 
 std::string trim(const std::string& text) {
   size_t begin = text.find_first_not_of(" \t\r");
@@ -54,17 +55,39 @@ class ScenarioRun {
 
   void execute(const std::string& statement) {
     auto [verb, rest] = splitWord(statement);
+    const std::vector<std::string> args = words(rest);
     if (verb == "answer") return answer(rest);
-    if (verb == "command") return session_.run(checkedProcedure(trim(rest)));
-    if (verb == "select") return select(words(rest));
-    if (verb == "click") return click(words(rest));
-    if (verb == "move") return move(words(rest));
-    if (verb == "resize") return resize(words(rest));
+    if (verb == "command") {
+      if (trim(rest).empty()) throw BadStatement("command without a name");
+      return session_.run(trim(rest));
+    }
+    if (verb == "select") {
+      need(args, 2, "select takes ComboN INDEX");
+      return combo(args[0]).setListIndex(static_cast<int>(numberArg(args[1])));
+    }
+    if (verb == "click") {
+      need(args, 3, "click takes X Y BUTTON");
+      return session_.click(numberArg(args[0]), numberArg(args[1]),
+                            static_cast<int>(numberArg(args[2])));
+    }
+    if (verb == "move") {
+      need(args, 2, "move takes X Y");
+      return session_.move(numberArg(args[0]), numberArg(args[1]));
+    }
+    if (verb == "resize") return resize(args);
     if (verb == "save-image") return saveImage(trim(rest));
-    if (verb == "print-labels") return printLabels();
-    if (verb == "print-canvas") return printCanvas();
+    if (verb == "print-labels") {
+      for (int n = 1; n <= 13; ++n)
+        out_ << "Label" << n << ": " << session_.state.ui.label(n) << "\n";
+      return;
+    }
+    if (verb == "print-canvas") {
+      for (const std::string& op : session_.canvas.describeSinceClear()) out_ << op << "\n";
+      return;
+    }
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
+    if (verb == "elevations") return elevations(words(rest));
     throw BadStatement("unknown statement \"" + verb + "\"");
   }
 
@@ -76,6 +99,10 @@ class ScenarioRun {
   }
 
  private:
+  static void need(const std::vector<std::string>& args, size_t count, const char* usage) {
+    if (args.size() != count) throw BadStatement(usage);
+  }
+
   std::string path(const std::string& text) const {
     std::string p = text;
     const std::string tmp = "${TMP}";
@@ -86,38 +113,24 @@ class ScenarioRun {
     return (std::filesystem::path(folder_) / p).lexically_normal().string();
   }
 
-  std::string checkedProcedure(const std::string& name) {
-    if (name.empty()) throw BadStatement("command without a name");
-    return name;
-  }
-
   void answer(const std::string& rest) {
     auto [kind, value] = splitWord(rest);
     ScriptedDialogs& d = session_.dialogs;
     if (kind == "input") return void(d.answerInput(value));
-    if (kind == "file") {
-      const std::string p = path(trim(value));
-      d.answerOpen(p);
-      return;
+    if (kind == "file") return void(d.answerOpen(path(trim(value))));
+    if (kind == "button") {
+      for (Answer a : {Answer::OK, Answer::Cancel, Answer::Yes, Answer::No}) {
+        if (trim(value) == answerName(a)) return void(d.answerButton(a));
+      }
+      throw BadStatement("unknown button \"" + trim(value) + "\"");
     }
-    if (kind == "button") return void(d.answerButton(buttonAnswer(trim(value))));
     if (kind == "color") {
-      std::vector<std::string> rgbWords = words(value);
-      if (rgbWords.size() != 3) throw BadStatement("answer color takes R G B");
-      d.answerColor(rgb(static_cast<int>(numberArg(rgbWords[0])),
-                        static_cast<int>(numberArg(rgbWords[1])),
-                        static_cast<int>(numberArg(rgbWords[2]))));
-      return;
+      const std::vector<std::string> c = words(value);
+      need(c, 3, "answer color takes R G B");
+      auto part = [&](int i) { return static_cast<int>(numberArg(c[i])); };
+      return void(d.answerColor(rgb(part(0), part(1), part(2))));
     }
     throw BadStatement("unknown answer kind \"" + kind + "\"");
-  }
-
-  static Answer buttonAnswer(const std::string& name) {
-    if (name == "OK") return Answer::OK;
-    if (name == "Cancel") return Answer::Cancel;
-    if (name == "Yes") return Answer::Yes;
-    if (name == "No") return Answer::No;
-    throw BadStatement("unknown button \"" + name + "\"");
   }
 
   Combo& combo(const std::string& name) {
@@ -128,23 +141,8 @@ class ScenarioRun {
     throw BadStatement("no selector \"" + name + "\"");
   }
 
-  void select(const std::vector<std::string>& args) {
-    if (args.size() != 2) throw BadStatement("select takes ComboN INDEX");
-    combo(args[0]).setListIndex(static_cast<int>(numberArg(args[1])));
-  }
-
-  void click(const std::vector<std::string>& args) {
-    if (args.size() != 3) throw BadStatement("click takes X Y BUTTON");
-    session_.click(numberArg(args[0]), numberArg(args[1]), static_cast<int>(numberArg(args[2])));
-  }
-
-  void move(const std::vector<std::string>& args) {
-    if (args.size() != 2) throw BadStatement("move takes X Y");
-    session_.move(numberArg(args[0]), numberArg(args[1]));
-  }
-
   void resize(const std::vector<std::string>& args) {
-    if (args.size() != 2) throw BadStatement("resize takes W H");
+    need(args, 2, "resize takes W H");
     const double w = numberArg(args[0]);
     const double h = numberArg(args[1]);
     if (w < 1 || h < 1 || w > 20000 || h > 20000)
@@ -156,16 +154,6 @@ class ScenarioRun {
     const std::string p = path(text);
     if (p.empty()) throw BadStatement("save-image without a path");
     if (!session_.canvas.save(p)) throw BadStatement("cannot write the image " + p);
-  }
-
-  void printLabels() {
-    for (int n = 1; n <= 13; ++n) {
-      out_ << "Label" << n << ": " << session_.state.ui.label(n) << "\n";
-    }
-  }
-
-  void printCanvas() {
-    for (const std::string& op : session_.canvas.describeSinceClear()) out_ << op << "\n";
   }
 
   void expectLabel(const std::string& rest) {
@@ -187,6 +175,15 @@ class ScenarioRun {
     if (actual != trim(text)) {
       throw ExpectationFailed(name + " holds \"" + actual + "\", expected \"" + trim(text) + "\"");
     }
+  }
+
+  // The bench as the two prompts of the elevation command would set it, whose first step
+  // ends the program before they are shown.
+  void elevations(const std::vector<std::string>& args) {
+    if (args.size() != 2) throw BadStatement("elevations takes UP DOWN");
+    Scan& scan = session_.state.scan;
+    scan.upkot = toNumber(args[0]);
+    scan.downkot = toNumber(args[1]);
   }
 
   std::string folder_;
@@ -215,12 +212,9 @@ int runScenario(std::istream& script, const std::string& folder, std::ostream& o
   } catch (const UnansweredDialog& dialog) {
     err << "line " << lineNumber << ": " << dialog.what() << "\n";
     return kScenarioUnanswered;
-  } catch (const BadStatement& bad) {
-    err << "line " << lineNumber << ": " << bad.what() << "\n";
-    return kScenarioBadStatement;
-  } catch (const ExpectationFailed& failed) {
-    err << "line " << lineNumber << ": " << failed.what() << "\n";
-    return kScenarioExpectation;
+  } catch (const Stop& stop) {
+    err << "line " << lineNumber << ": " << stop.what() << "\n";
+    return stop.code;
   } catch (const std::invalid_argument& unknown) {
     err << "line " << lineNumber << ": " << unknown.what() << "\n";
     return kScenarioBadStatement;

@@ -5,6 +5,7 @@
 //   command NAME            select ComboN INDEX        click X Y BUTTON       move X Y
 //   resize W H              save-image PATH            print-labels      print-canvas
 //   expect-label N TEXT     expect-combo ComboN TEXT...   (entries after the title, '|'-separated)
+//   elevations UP DOWN      (the bench of the scan, as the elevation command's prompts set it)
 //
 // print-canvas prints every drawing operation on the canvas since its last clear, one a
 // line, in the canvas log's form (docs/scenarios.md).

@@ -5,24 +5,13 @@
 namespace tri {
 
 const char* dialogKindName(DialogKind kind) {
-  switch (kind) {
-    case DialogKind::Input: return "input";
-    case DialogKind::Message: return "button";
-    case DialogKind::OpenFile: return "file";
-    case DialogKind::SaveFile: return "file";
-    case DialogKind::Color: return "color";
-  }
-  return "dialog";
+  static const char* const names[] = {"input", "button", "file", "file", "color"};
+  return names[static_cast<int>(kind)];
 }
 
 const char* answerName(Answer answer) {
-  switch (answer) {
-    case Answer::OK: return "OK";
-    case Answer::Cancel: return "Cancel";
-    case Answer::Yes: return "Yes";
-    case Answer::No: return "No";
-  }
-  return "?";
+  static const char* const names[] = {"OK", "Cancel", "Yes", "No"};
+  return names[static_cast<int>(answer)];
 }
 
 UnansweredDialog::UnansweredDialog(DialogKind kindOf, const std::string& promptOf,
@@ -31,39 +20,34 @@ UnansweredDialog::UnansweredDialog(DialogKind kindOf, const std::string& promptO
       kind(kindOf),
       prompt(promptOf) {}
 
-ScriptedDialogs& ScriptedDialogs::answerInput(const std::string& answer,
-                                              std::optional<std::string> prompt) {
-  queue_.push_back(Queued{DialogKind::Input, std::move(prompt), answer, Answer::OK, {}});
+ScriptedDialogs& ScriptedDialogs::queue(DialogKind kind, std::optional<std::string> prompt,
+                                        std::string text, Answer answer,
+                                        std::optional<Color> color) {
+  queue_.push_back(Queued{kind, std::move(prompt), std::move(text), answer, color});
   return *this;
 }
 
+ScriptedDialogs& ScriptedDialogs::answerInput(const std::string& answer,
+                                              std::optional<std::string> prompt) {
+  return queue(DialogKind::Input, std::move(prompt), answer);
+}
+
 ScriptedDialogs& ScriptedDialogs::answerButton(Answer answer, std::optional<std::string> text) {
-  Queued q{DialogKind::Message, std::move(text), answerName(answer), answer, {}};
-  queue_.push_back(std::move(q));
-  return *this;
+  return queue(DialogKind::Message, std::move(text), answerName(answer), answer);
 }
 
 ScriptedDialogs& ScriptedDialogs::answerOpen(const std::string& path,
                                              std::optional<std::string> title) {
-  queue_.push_back(Queued{DialogKind::OpenFile, std::move(title), path, Answer::OK, {}});
-  return *this;
+  return queue(DialogKind::OpenFile, std::move(title), path);
 }
 
 ScriptedDialogs& ScriptedDialogs::answerSave(const std::string& path,
                                              std::optional<std::string> title) {
-  queue_.push_back(Queued{DialogKind::SaveFile, std::move(title), path, Answer::OK, {}});
-  return *this;
+  return queue(DialogKind::SaveFile, std::move(title), path);
 }
 
 ScriptedDialogs& ScriptedDialogs::answerColor(Color value, std::optional<std::string> title) {
-  Queued q{DialogKind::Color, std::move(title), std::to_string(value), Answer::OK, value};
-  queue_.push_back(std::move(q));
-  return *this;
-}
-
-ScriptedDialogs& ScriptedDialogs::cancelColor() {
-  queue_.push_back(Queued{DialogKind::Color, std::nullopt, "Cancel", Answer::Cancel, {}});
-  return *this;
+  return queue(DialogKind::Color, std::move(title), std::to_string(value), Answer::OK, value);
 }
 
 std::string ScriptedDialogs::transcript() const {
@@ -75,16 +59,10 @@ std::string ScriptedDialogs::transcript() const {
 }
 
 ScriptedDialogs::Queued ScriptedDialogs::take(DialogKind kind, const std::string& prompt) {
-  // Open and save dialogs share the answer kind "file" in scripts.
-  auto sameKind = [](DialogKind a, DialogKind b) {
-    auto fileKind = [](DialogKind k) {
-      return k == DialogKind::OpenFile || k == DialogKind::SaveFile;
-    };
-    return a == b || (fileKind(a) && fileKind(b));
-  };
   if (queue_.empty()) throw UnansweredDialog(kind, prompt, "no answer queued");
   Queued next = queue_.front();
-  if (!sameKind(next.kind, kind)) {
+  // Open and save dialogs share the answer kind "file" in scripts.
+  if (std::string(dialogKindName(next.kind)) != dialogKindName(kind)) {
     throw UnansweredDialog(
         kind, prompt,
         std::string("the next answer is for a ") + dialogKindName(next.kind) + " dialog");
@@ -105,16 +83,16 @@ std::string ScriptedDialogs::inputBox(const std::string& prompt, const std::stri
 Answer ScriptedDialogs::messageBox(const std::string& text, Buttons buttons, Icon,
                                    const std::string& title) {
   Queued q = take(DialogKind::Message, text);
-  bool allowed =
-      (buttons == Buttons::OK && q.answer == Answer::OK) ||
-      (buttons == Buttons::OKCancel && (q.answer == Answer::OK || q.answer == Answer::Cancel)) ||
-      (buttons == Buttons::YesNo && (q.answer == Answer::Yes || q.answer == Answer::No));
+  const Answer a = q.answer;
+  const bool allowed = buttons == Buttons::OK         ? a == Answer::OK
+                       : buttons == Buttons::OKCancel ? a == Answer::OK || a == Answer::Cancel
+                                                      : a == Answer::Yes || a == Answer::No;
   if (!allowed) {
     throw UnansweredDialog(DialogKind::Message, text,
-                           std::string("the box has no button ") + answerName(q.answer));
+                           std::string("the box has no button ") + answerName(a));
   }
   shown_.push_back({DialogKind::Message, text, title, q.text});
-  return q.answer;
+  return a;
 }
 
 FileChoice ScriptedDialogs::file(DialogKind kind, const std::string& title,
@@ -131,6 +109,10 @@ FileChoice ScriptedDialogs::openFile(const std::string& title, const std::string
 
 FileChoice ScriptedDialogs::saveFile(const std::string& title, const std::string& filter) {
   return file(DialogKind::SaveFile, title, filter);
+}
+
+ScriptedDialogs& ScriptedDialogs::cancelColor() {
+  return queue(DialogKind::Color, {}, "cancel", Answer::Cancel);
 }
 
 std::optional<Color> ScriptedDialogs::chooseColor(const std::string& title, Color) {

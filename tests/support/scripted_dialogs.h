@@ -61,6 +61,8 @@ class ScriptedDialogs : public Dialogs {
     Answer answer = Answer::OK;
     std::optional<Color> color;
   };
+  ScriptedDialogs& queue(DialogKind kind, std::optional<std::string> prompt, std::string text,
+                         Answer answer = Answer::OK, std::optional<Color> color = {});
   Queued take(DialogKind kind, const std::string& prompt);
   FileChoice file(DialogKind kind, const std::string& title, const std::string& filter);
 

@@ -6,18 +6,9 @@
 
 namespace tri {
 
-std::vector<std::string> StoredTable::fieldNames() const {
-  std::vector<std::string> names;
-  for (const FieldDef& f : fields) names.push_back(f.name);
-  return names;
-}
-
 const Value& StoredTable::at(int row, const std::string& field) const {
-  if (row < 1 || row > static_cast<int>(rows.size())) {
-    throw std::out_of_range("no row " + std::to_string(row));
-  }
   for (size_t i = 0; i < fields.size(); ++i) {
-    if (fields[i].name == field) return rows[row - 1][i];
+    if (fields[i].name == field) return rows.at(static_cast<size_t>(row - 1)).at(i);
   }
   throw std::out_of_range("no field " + field);
 }
@@ -36,16 +27,26 @@ std::string StoredTable::text(int row, const std::string& field) const {
 
 StoredTable readTable(const std::string& path, const std::string& table) {
   Database db = Database::open(path);
-  StoredTable result;
-  result.fields = db.fields(table);
+  StoredTable result{db.fields(table), {}};
   Recordset rs = db.openTable(table);
-  if (rs.recordCount() == 0) return result;
-  for (rs.moveFirst(); !rs.eof(); rs.moveNext()) {
+  for (long n = rs.recordCount(); n > 0; --n, rs.moveNext()) {
     std::vector<Value> row;
     for (const FieldDef& f : result.fields) row.push_back(rs.get(f.name));
     result.rows.push_back(std::move(row));
   }
   return result;
+}
+
+void writeStored(const std::string& path, const std::string& table, int row,
+                 const std::string& field, const Value& value) {
+  Database db = Database::open(path);
+  Recordset rs = db.openTable(table);
+  rs.move(row - 1);
+  rs.edit();
+  if (value.isNull()) rs.setNull(field);
+  if (value.isNumber()) rs.set(field, value.asNumber());
+  if (value.isText()) rs.set(field, value.asText());
+  rs.update();
 }
 
 }  // namespace tri

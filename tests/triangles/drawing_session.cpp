@@ -32,4 +32,16 @@ void DrawingSession::pickTriangle(double x1, double y1, double x2, double y2, do
   click(x3, y3);
 }
 
+Summary summaryOf(const StoredTable& t, int row) {
+  return {t.number(row, "ilkuz"), t.number(row, "geneltenor"), t.number(row, "genelyog"),
+          t.number(row, "kubaj"), t.number(row, "tonaj"),      t.number(row, "genelrezerv"),
+          t.number(row, "ill")};
+}
+
+void PrintTo(const Summary& v, std::ostream* os) {
+  *os << "{ilkuz " << v.ilkuz << ", tenor " << v.geneltenor << ", yog " << v.genelyog << ", kubaj "
+      << v.kubaj << ", tonaj " << v.tonaj << ", rezerv " << v.genelrezerv << ", ill " << v.ill
+      << "}";
+}
+
 }  // namespace tri

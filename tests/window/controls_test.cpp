@@ -18,23 +18,10 @@ bool colorNear(const QImage& image, QPoint at, const QColor& color) {
   return false;
 }
 
-TEST(WindowControls, ThePrintPanelsStartHiddenWithTheirCaptions) {
-  WindowHarness h;
-  for (const char* name :
-       {"Picture2", "HScroll1", "Combo3", "Command1", "Command2", "Frame1", "Frame2"}) {
-    EXPECT_FALSE(h.window.findChild<QWidget*>(name)->isVisible()) << name;
-  }
-  EXPECT_TRUE(h.picture1()->isVisible());
-  EXPECT_EQ(h.labelText(5), "Size:");
-  EXPECT_EQ(h.labelText(11), "Yer");
-  EXPECT_EQ(h.window.windowTitle(), "TriReserve");
-}
-
 TEST(WindowControls, WhatTheLogicSetsShowsAfterAnEvent) {
   WindowHarness h;
   Controls& ui = h.state().ui;
   ui.setLabel(2, "Area: 12");
-  ui.setLabel(13, "plan1");
   ui.show("Frame1");
   ui.show("HScroll1");
   ui.hscroll1Value = 90;
@@ -46,7 +33,6 @@ TEST(WindowControls, WhatTheLogicSetsShowsAfterAnEvent) {
   h.mouse(QEvent::MouseMove, QPoint(5, 5), Qt::NoButton);
 
   EXPECT_EQ(h.labelText(2), "Area: 12");
-  EXPECT_EQ(h.labelText(13), "plan1");
   EXPECT_TRUE(h.window.findChild<QWidget*>("Frame1")->isVisible());
   EXPECT_FALSE(h.window.findChild<QWidget*>("Frame2")->isVisible());
   auto* bar = h.window.findChild<QScrollBar*>("HScroll1");
@@ -56,9 +42,7 @@ TEST(WindowControls, WhatTheLogicSetsShowsAfterAnEvent) {
   EXPECT_EQ(h.combo("Combo1")->count(), 2);
   EXPECT_EQ(h.combo("Combo1")->currentIndex(), -1);
   EXPECT_FALSE(h.action("Mnucsil")->isEnabled());
-  EXPECT_TRUE(h.action("Mnprolus")->isEnabled());
   EXPECT_TRUE(h.action("Mnsndjgoster")->isChecked());
-  EXPECT_FALSE(h.action("Mngridgoster")->isChecked());
   // And what the user changes reaches the logic.
   bar->setValue(200);
   EXPECT_EQ(ui.hscroll1Value, 200);

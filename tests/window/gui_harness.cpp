@@ -6,9 +6,6 @@
 #include <QTimer>
 #include <cmath>
 
-#include "platform/store.h"
-#include "store/project_format.h"
-
 namespace tri {
 
 WindowHarness::WindowHarness() : window(&dialogs) {
@@ -51,11 +48,6 @@ std::string WindowHarness::createProject() {
       .answerSave(path, "Write Project Name");
   trigger("Mnprolus");
   return path;
-}
-
-void WindowHarness::openProject(const std::string& path) {
-  dialogs.answerOpen(path, "Select Project File");
-  trigger("Mnprojeac");
 }
 
 QPoint WindowHarness::pixelOf(double x, double y) {
@@ -102,53 +94,6 @@ std::string WindowHarness::faultTexts() const {
   std::string text;
   for (const ReportedFault& fault : faults) text += fault.text.toStdString() + "\n";
   return text + dialogs.transcript();
-}
-
-namespace {
-
-void copyCorner(Recordset& kor, int hole, Recordset& table) {
-  kor.moveFirst();
-  kor.move(hole - 1);
-  table.addNew();
-  table.set("koordinat1", kor.number("eks"));
-  table.set("koordinat2", kor.number("eye"));
-  table.set("say", hole);
-  table.set("sondgir", kor.number("songir"));
-  table.set("cevhgir", kor.number("cevgir"));
-  table.set("cevhcik", kor.number("cevcik"));
-  table.set("sondcik", kor.number("soncik"));
-  table.update();
-}
-
-void appendSummary(Recordset& table, int triangle) {
-  table.addNew();
-  for (const FieldDef& field : drawingFields()) table.set(field.name, 0);
-  table.set("ucgensay", triangle);
-  table.update();
-}
-
-}  // namespace
-
-void addDrawing(const std::string& projectPath, const std::string& lithology,
-                const std::string& drawing, const std::vector<std::array<int, 3>>& triangles) {
-  Database db = Database::open(projectPath);
-  db.createTable(drawing, drawingFields());
-  {
-    Recordset kor = db.openTable(kHoleTable);
-    Recordset table = db.openTable(drawing);
-    appendSummary(table, 0);
-    for (size_t t = 0; t < triangles.size(); ++t) {
-      for (int hole : triangles[t]) copyCorner(kor, hole, table);
-      appendSummary(table, static_cast<int>(t + 1));
-    }
-  }
-  // A lithology's table: a header row, then its drawings with their numbers.
-  Recordset drawings = db.openTable(lithology);
-  const int number = static_cast<int>(drawings.recordCount());
-  drawings.addNew();
-  drawings.set("cizim", drawing);
-  drawings.set("tsay", number);
-  drawings.update();
 }
 
 }  // namespace tri

@@ -8,7 +8,6 @@
 #include <QImage>
 #include <QPoint>
 #include <QString>
-#include <array>
 #include <functional>
 #include <string>
 #include <vector>
@@ -49,8 +48,6 @@ class WindowHarness {
   // File > Create > Project from the workbook cluster.xls: fourteen holes C-01 .. C-14,
   // numbered as named, with the lithologies "ore" and "waste". Returns the project file.
   std::string createProject();
-  // File > Open > Project.
-  void openProject(const std::string& path);
 
   // The canvas pixel of a world point, and the picture the canvas widget shows.
   QPoint pixelOf(double x, double y);
@@ -66,11 +63,5 @@ class WindowHarness {
 
   std::string faultTexts() const;
 };
-
-// Adds a drawing of triangles between holes (numbers from 1) to a lithology of a project
-// file, with the corners' rows copied from kor as triangle entry stores them and summary
-// rows of zeros.
-void addDrawing(const std::string& projectPath, const std::string& lithology,
-                const std::string& drawing, const std::vector<std::array<int, 3>>& triangles);
 
 }  // namespace tri

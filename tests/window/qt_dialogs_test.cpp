@@ -1,18 +1,14 @@
-// The Qt dialogs as the logic sees them: answers, titles, filters and colours.
+// The Qt dialogs as the logic sees them: a message box closed without a button, and the
+// file filters.
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFileDialog>
-#include <QInputDialog>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
 #include <deque>
-#include <fstream>
 
-#include "support/temp_dir.h"
 #include "window/qt_dialogs.h"
 
 namespace tri {
@@ -76,43 +72,6 @@ TEST(QtMessageBox, ClosingWithoutAButtonIsCancelOrNo) {
             Answer::Cancel);
   EXPECT_EQ(dialogs.messageBox("Done", Buttons::OK, Icon::Information, ""), Answer::OK);
   EXPECT_EQ(steps.taken(), 3);
-}
-
-TEST(QtInputBox, TheTypedTextOrNothingWhenCancelled) {
-  QtDialogs dialogs(nullptr);
-  QString title;
-  ModalSteps steps({[&](QWidget* w) {
-                      title = w->windowTitle();
-                      w->findChild<QLineEdit*>()->setText("1000");
-                      qobject_cast<QDialog*>(w)->accept();
-                    },
-                    [](QWidget* w) { qobject_cast<QDialog*>(w)->reject(); }});
-  EXPECT_EQ(dialogs.inputBox("Enter the scale", "Scale"), "1000");
-  EXPECT_EQ(title, "Scale");
-  EXPECT_EQ(dialogs.inputBox("Enter the scale", ""), "");
-}
-
-TEST(QtFileDialogs, TheChosenFileWithItsNameAndNoOverwriteQuestion) {
-  TempDir dir;
-  const std::string existing = dir.file("old.mdb");
-  std::ofstream(existing) << "x";
-  QtDialogs dialogs(nullptr);
-  QStringList filters;
-  auto chooseExisting = [&](QWidget* w) {
-    auto* dialog = qobject_cast<QFileDialog*>(w);
-    filters = dialog->nameFilters();
-    dialog->selectFile(QString::fromStdString(existing));
-    static_cast<QDialog*>(dialog)->accept();
-  };
-  // A question about overwriting would be a further dialog: answer it so the test ends.
-  ModalSteps steps(
-      {chooseExisting, chooseExisting, [](QWidget* w) { qobject_cast<QDialog*>(w)->accept(); }});
-  const FileChoice opened = dialogs.openFile("Select Project File", "Project (*.mdb)|*.mdb");
-  EXPECT_EQ(opened.path, existing);
-  EXPECT_EQ(opened.title, "old.mdb");
-  EXPECT_EQ(filters, QStringList({"Project (*.mdb)"}));
-  EXPECT_EQ(dialogs.saveFile("Write Project Name", "Project (*.mdb)|*.mdb").path, existing);
-  EXPECT_EQ(steps.taken(), 2);
 }
 
 }  // namespace

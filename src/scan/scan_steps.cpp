@@ -1,0 +1,56 @@
+#include "scan/scan_steps.h"
+
+#include "canvas/replay.h"
+#include "platform/vbtext.h"
+
+namespace tri {
+
+void startScanMode(State& s, bool Flags::*flag) {
+  clearViewFlags(s);
+  if (flag) s.flags.*flag = true;
+  for (const char* item : {"Mnkaydir", "Mnolcekg", "Mntoprez", "MNolcek", "Mnorten", "Mnhorten",
+                           "Mnkortyog", "Mnaortyog"}) {
+    s.ui.enable(item);
+  }
+  removeMarkers(s);
+  for (const char* name :
+       {"Combo3", "Command1", "Frame1", "Frame2", "Picture2", "Command2", "HScroll1"}) {
+    s.ui.hide(name);
+  }
+  s.ui.show("Picture1");
+}
+
+void printText(Canvas& c, Color color, double x, double y, const std::string& text) {
+  c.foreColor = color;
+  c.currentX = x;
+  c.currentY = y;
+  c.print(text);
+}
+
+std::string elevationText(double up, double down) {
+  return "(" + numberText(up) + " , " + numberText(down) + ")";
+}
+
+ScanLabel scanLabelAt(double cx, double cy, double up, double down, double tenor,
+                      double reserveTons) {
+  ScanLabel label;
+  label.elevx = cx - 5;
+  label.elevy = cy;
+  label.elevup = numberText(up);
+  label.elevdown = numberText(down);
+  label.tenorx = cx - 5;
+  label.tenory = cy - 12;
+  label.tenortext = numberText(roundHalfEven(tenor, 2));
+  label.reservex = cx - 5;
+  label.reservey = cy - 24;
+  label.reservetext = numberText(roundHalfEven(reserveTons / 1000, 2));
+  return label;
+}
+
+void printScanLabel(Canvas& c, const ScanLabel& label) {
+  printText(c, kScanBlue, label.elevx, label.elevy, label.elevationText());
+  printText(c, kScanGreen, label.tenorx, label.tenory, label.tenortext);
+  printText(c, kScanRed, label.reservex, label.reservey, label.reservetext);
+}
+
+}  // namespace tri
