@@ -24,6 +24,8 @@ struct MouseRow {
 
 bool never(const State&) { return false; }
 bool entryMode(const State& s) { return s.flags.modcizim; }
+bool cikartOn(const State& s) { return s.flags.modcikart; }
+bool ucsecOn(const State& s) { return s.flags.moducsec; }
 
 void enterTriangle(State& s, int button, float x, float y) { ucgeciz(s, x, y, button); }
 
@@ -43,8 +45,8 @@ const MouseRow kMouseDownChain[] = {
     {never,        nullptr},        // start of a drag (right)
     {never,        nullptr},        // triangle selection for digitizing (left)
     {tiklamaOn,    tiklamaDown},    // scan selection (left)
-    {never,        nullptr},        // hole removal
-    {never,        nullptr},        // triangle removal
+    {cikartOn,     removeHoleAt},   // hole removal
+    {ucsecOn,      pickCornerAt},   // triangle removal
     {overlayOn,    overlayDown},    // overlays (left)
     {entryMode,    enterTriangle},  // triangle entry, every button
 };

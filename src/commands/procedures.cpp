@@ -43,8 +43,8 @@ const ReplayRow kReplay[] = {
     {&Flags::modrezton,      nullptr,   Mnrezton_Click},          // reserve tonnage map
     {&Flags::modgenelrezerv, nullptr,   Mngenelrezervler_Click},  // general reserve map
     {&Flags::modrecboy,      nullptr,   Mnrecboy_Click},          // 3D reserve view
-    {&Flags::modcikart,      nullptr,   nullptr},                 // hole removal
-    {&Flags::moducsec,       nullptr,   nullptr},                 // triangle removal
+    {&Flags::modcikart,      nullptr,   Mncikart_Click},          // hole removal
+    {&Flags::moducsec,       nullptr,   Mnucsec_Click},           // triangle removal
     {&Flags::modcizim,       nullptr,   ucgenplan},               // triangle entry: the network
 };
 // clang-format on

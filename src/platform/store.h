@@ -96,6 +96,9 @@ class Recordset {
   void setNull(const std::string& field);
   void update();
   void cancelUpdate();
+  // edit(), set() of one field and update() in one step, with their result and their
+  // Faults; the row's other fields are neither read nor written again.
+  void updateField(const std::string& field, double number);
   // Deletes the current row. The deleted row stays current, without fields, until a move.
   void remove();
 

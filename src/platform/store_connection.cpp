@@ -150,8 +150,20 @@ void TableInfo::releaseRow() {
   positioned = false;
 }
 
+sqlite3_stmt* TableInfo::fieldUpdate(int field, Connection& connection) {
+  if (fieldUpdateField != field || !fieldUpdateStatement.isPrepared()) {
+    fieldUpdateStatement =
+        connection.prepare("UPDATE " + sqlName(name) + " SET " + sqlName(fields[field].name) +
+                               "=?1 WHERE " + rowid + "=?2",
+                           "cannot update table " + shown(name), true);
+    fieldUpdateField = field;
+  }
+  return fieldUpdateStatement.get();
+}
+
 void TableInfo::finalize() {
   for (SqliteStatement& statement : statements) statement.finalize();
+  fieldUpdateStatement.finalize();
   positioned = false;
 }
 

@@ -576,6 +576,24 @@ void Recordset::cancelUpdate() {
   r.buffer.clear();
 }
 
+void Recordset::updateField(const std::string& field, double number) {
+  Impl& r = liveRows(impl_);
+  const int column = r.column(field);
+  r.requireCurrentRow();
+  r.editing = Editing::None;
+  r.buffer.clear();
+  const Value value = r.fromNumber(column, number);
+  r.connection->beforeWrite();
+  sqlite3_stmt* stmt = r.table->fieldUpdate(column, *r.connection);
+  bindValue(stmt, 1, value);
+  sqlite3_bind_int64(stmt, 2, r.rowids[r.position]);
+  r.stepWrite(stmt, "update a field of the current row");
+  if (sqlite3_changes(r.connection->db.get()) == 0) {
+    fail(FaultKind::Database, "Record is deleted: the edited row of table " + shown(r.name) +
+                                  " was deleted before the update");
+  }
+}
+
 void Recordset::remove() { liveRows(impl_).deleteCurrentRow(); }
 
 void Recordset::close() {
