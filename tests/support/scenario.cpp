@@ -74,6 +74,11 @@ class ScenarioRun {
       need(args, 2, "move takes X Y");
       return session_.move(numberArg(args[0]), numberArg(args[1]));
     }
+    if (verb == "drag") {
+      need(args, 5, "drag takes X1 Y1 X2 Y2 BUTTON");
+      return session_.drag(numberArg(args[0]), numberArg(args[1]), numberArg(args[2]),
+                           numberArg(args[3]), static_cast<int>(numberArg(args[4])));
+    }
     if (verb == "resize") return resize(args);
     if (verb == "save-image") return saveImage(trim(rest));
     if (verb == "print-labels") {
@@ -85,6 +90,7 @@ class ScenarioRun {
       for (const std::string& op : session_.canvas.describeSinceClear()) out_ << op << "\n";
       return;
     }
+    if (verb == "print-frame") return printFrame();
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
     if (verb == "elevations") return elevations(words(rest));
@@ -108,6 +114,11 @@ class ScenarioRun {
     const std::string tmp = "${TMP}";
     for (size_t at; (at = p.find(tmp)) != std::string::npos;) {
       p.replace(at, tmp.size(), session_.dir.path());
+    }
+    const std::string pictures = "${PICTURES}";
+    if (const size_t at = p.find(pictures); at != std::string::npos) {
+      std::filesystem::create_directories(TRIRESERVE_SCENARIO_PICTURES);
+      p.replace(at, pictures.size(), TRIRESERVE_SCENARIO_PICTURES);
     }
     if (p.empty() || std::filesystem::path(p).is_absolute()) return p;
     return (std::filesystem::path(folder_) / p).lexically_normal().string();
@@ -139,6 +150,14 @@ class ScenarioRun {
       if (c->name() == name) return *c;
     }
     throw BadStatement("no selector \"" + name + "\"");
+  }
+
+  void printFrame() {
+    const Frame& f = session_.state.frame;
+    out_ << "frame x " << numberText(f.ekxk) << " .. " << numberText(f.ebxk) << "  y "
+         << numberText(f.ekyk) << " .. " << numberText(f.ebyk) << "  scale " << numberText(f.olcekx)
+         << " " << numberText(f.olceky) << "  pan " << numberText(f.kaydirx) << " "
+         << numberText(f.kaydiry) << "  grid " << f.gridadim << "\n";
   }
 
   void resize(const std::vector<std::string>& args) {
