@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "commands/procedures.h"
 #include "platform/fault.h"
 #include "platform/vbtext.h"
 #include "support/session.h"
@@ -76,8 +77,9 @@ class ScenarioRun {
     }
     if (verb == "drag") {
       need(args, 5, "drag takes X1 Y1 X2 Y2 BUTTON");
-      return session_.drag(numberArg(args[0]), numberArg(args[1]), numberArg(args[2]),
-                           numberArg(args[3]), static_cast<int>(numberArg(args[4])));
+      const int button = static_cast<int>(numberArg(args[4]));
+      Picture1_MouseDown(session_.state, button, numberArg(args[0]), numberArg(args[1]));
+      return Picture1_MouseUp(session_.state, button, numberArg(args[2]), numberArg(args[3]));
     }
     if (verb == "resize") return resize(args);
     if (verb == "save-image") return saveImage(trim(rest));
@@ -115,10 +117,9 @@ class ScenarioRun {
     for (size_t at; (at = p.find(tmp)) != std::string::npos;) {
       p.replace(at, tmp.size(), session_.dir.path());
     }
-    const std::string pictures = "${PICTURES}";
-    if (const size_t at = p.find(pictures); at != std::string::npos) {
+    if (const size_t at = p.find("${PICTURES}"); at != std::string::npos) {
       std::filesystem::create_directories(TRIRESERVE_SCENARIO_PICTURES);
-      p.replace(at, pictures.size(), TRIRESERVE_SCENARIO_PICTURES);
+      p.replace(at, 11, TRIRESERVE_SCENARIO_PICTURES);
     }
     if (p.empty() || std::filesystem::path(p).is_absolute()) return p;
     return (std::filesystem::path(folder_) / p).lexically_normal().string();

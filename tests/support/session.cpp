@@ -31,12 +31,6 @@ void Session::move(double x, double y) {
   Picture1_MouseMove(state, 0, static_cast<float>(x), static_cast<float>(y));
 }
 
-void Session::drag(double x1, double y1, double x2, double y2, int button) {
-  Picture1_MouseDown(state, button, static_cast<float>(x1), static_cast<float>(y1));
-  Picture1_MouseMove(state, button, static_cast<float>(x2), static_cast<float>(y2));
-  Picture1_MouseUp(state, button, static_cast<float>(x2), static_cast<float>(y2));
-}
-
 void Session::resize(int canvasWidth, int canvasHeight) {
   Form_Resize(state, canvasWidth, canvasHeight);
 }

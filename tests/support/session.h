@@ -27,8 +27,6 @@ class Session {
   // A click (mouse down and up) or a move on the canvas, at world coordinates.
   void click(double x, double y, int button = 1);
   void move(double x, double y);
-  // A drag: the button pressed at (x1, y1), the pointer moved to (x2, y2) and released there.
-  void drag(double x1, double y1, double x2, double y2, int button);
   void resize(int canvasWidth, int canvasHeight);
 
   // Creates a project in the temporary folder from a workbook, answering its two file
