@@ -1,4 +1,5 @@
 // The mouse chain of the canvas: every branch whose mode flag is on, in the fixed order.
+#include "canvas/commands.h"
 #include "commands/procedures.h"
 #include "platform/store.h"
 #include "platform/vbtext.h"
@@ -42,7 +43,7 @@ const MouseRow kMouseDownChain[] = {
     {trtekOn,      trtekDown},      // scan of one triangle (right)
     {never,        nullptr},        // production area by points
     {never,        nullptr},        // production area drawn freely
-    {never,        nullptr},        // start of a drag (right)
+    {kaydirOn,     kaydirDown},     // start of a drag (right)
     {never,        nullptr},        // triangle selection for digitizing (left)
     {tiklamaOn,    tiklamaDown},    // scan selection (left)
     {cikartOn,     removeHoleAt},   // hole removal
@@ -97,6 +98,6 @@ void Picture1_MouseMove(State& s, int, float x, float y) {
   if (s.flags.modcizim) followWithBand(s, x, y);
 }
 
-void Picture1_MouseUp(State&, int, float, float) {}
+void Picture1_MouseUp(State& s, int button, float x, float y) { kaydirUp(s, button, x, y); }
 
 }  // namespace tri

@@ -79,6 +79,8 @@ struct Frame {
   double kaydiry = 0;
   int kaydirsay = 0;
   bool kaydirmod = false;
+  double dragStartX = 0;  // where the right button went down in drag mode
+  double dragStartY = 0;
   int gridadim = 1;
   bool gridseyrek = false;
   // The base plan.

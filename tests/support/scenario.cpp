@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "commands/procedures.h"
 #include "platform/fault.h"
 #include "platform/vbtext.h"
 #include "support/session.h"
@@ -74,6 +75,12 @@ class ScenarioRun {
       need(args, 2, "move takes X Y");
       return session_.move(numberArg(args[0]), numberArg(args[1]));
     }
+    if (verb == "drag") {
+      need(args, 5, "drag takes X1 Y1 X2 Y2 BUTTON");
+      const int button = static_cast<int>(numberArg(args[4]));
+      Picture1_MouseDown(session_.state, button, numberArg(args[0]), numberArg(args[1]));
+      return Picture1_MouseUp(session_.state, button, numberArg(args[2]), numberArg(args[3]));
+    }
     if (verb == "resize") return resize(args);
     if (verb == "save-image") return saveImage(trim(rest));
     if (verb == "print-labels") {
@@ -85,6 +92,7 @@ class ScenarioRun {
       for (const std::string& op : session_.canvas.describeSinceClear()) out_ << op << "\n";
       return;
     }
+    if (verb == "print-frame") return printFrame();
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
     if (verb == "elevations") return elevations(words(rest));
@@ -109,6 +117,10 @@ class ScenarioRun {
     const std::string tmp = "${TMP}";
     for (size_t at; (at = p.find(tmp)) != std::string::npos;) {
       p.replace(at, tmp.size(), session_.dir.path());
+    }
+    if (const size_t at = p.find("${PICTURES}"); at != std::string::npos) {
+      std::filesystem::create_directories(TRIRESERVE_SCENARIO_PICTURES);
+      p.replace(at, 11, TRIRESERVE_SCENARIO_PICTURES);
     }
     if (p.empty() || std::filesystem::path(p).is_absolute()) return p;
     return (std::filesystem::path(folder_) / p).lexically_normal().string();
@@ -140,6 +152,14 @@ class ScenarioRun {
       if (c->name() == name) return *c;
     }
     throw BadStatement("no selector \"" + name + "\"");
+  }
+
+  void printFrame() {
+    const Frame& f = session_.state.frame;
+    out_ << "frame x " << numberText(f.ekxk) << " .. " << numberText(f.ebxk) << "  y "
+         << numberText(f.ekyk) << " .. " << numberText(f.ebyk) << "  scale " << numberText(f.olcekx)
+         << " " << numberText(f.olceky) << "  pan " << numberText(f.kaydirx) << " "
+         << numberText(f.kaydiry) << "  grid " << f.gridadim << "\n";
   }
 
   void resize(const std::vector<std::string>& args) {
