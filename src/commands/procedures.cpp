@@ -14,11 +14,15 @@ namespace tri {
 namespace {
 
 // The events of controls other than the menu, and the repaint that scenarios ask for.
+// clang-format off
 const ProcedureEntry kControlEvents[] = {
     {"Combo5_Click", Combo5_Click}, {"Combo4_Click", Combo4_Click}, {"Combo2_Click", Combo2_Click},
     {"Combo1_Click", Combo1_Click}, {"Command1_Click", nullptr},    {"Command2_Click", nullptr},
     {"HScroll1_Change", nullptr},   {"Form_Load", Form_Load},       {"ucgenplan", ucgenplan},
+    {"PageNext_Click", PageNext_Click},
+    {"PagePrevious_Click", PagePrevious_Click},
 };
+// clang-format on
 
 // The redraw replay, in its required order: the production, scan and digitizing tools,
 // then from the tenor map on the tail that the selectors also run.

@@ -1,4 +1,5 @@
-// The commands of the reserve views: the 2D value maps and the display settings they read.
+// The commands of the reserve views: the 2D value maps and the display settings they read,
+// and the drill-log view in which ranges of layers are cut out of the ore.
 #pragma once
 
 #include "store/state.h"
@@ -21,5 +22,15 @@ void Mnrenksec_Click(State& s);
 void MNrrezerv_Click(State& s);
 void Mnrmiktr_Click(State& s);
 void Mnrgrid_Click(State& s);
+
+// Triangle, Draw, Select-Cut: every hole as a column of bars on the window itself, a page
+// of holes at a time; two bars of one hole cut the range between them out of the ore, a
+// click on a marked hole's column head undoes its cuts. The page buttons and the keys
+// PageUp (33) and PageDown (34) turn to the holes before and after.
+void Mnsonkes_Click(State& s);
+void Form_MouseDown(State& s, int button, int shift, float x, float y);
+void Form_KeyDown(State& s, int keyCode);
+void PageNext_Click(State& s);
+void PagePrevious_Click(State& s);
 
 }  // namespace tri

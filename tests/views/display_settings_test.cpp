@@ -61,12 +61,10 @@ TEST(Colors, EachDialogKeepsItsColourWhenCancelled) {
   s.run("Mnrmiktr_Click");
   EXPECT_TRUE(anyContains(s.drawn(Kind::Text), "\"1.12\" color=255"));
 
-  // A cancelled class takes the colour the classes' dialog holds; so do ore and gangue,
-  // which end the Select-Cut picking.
+  // A cancelled class takes the colour the classes' dialog holds; so do ore and gangue.
   s.dialogs.answerInput("2").answerColor(100).cancelColor();
   s.run("MNrrezerv_Click");
   EXPECT_EQ(s.state.views.renkler[2], 100);
-  s.state.flags.sonkesmod = true;
   s.dialogs.answerButton(Answer::OK, "Select Color for Ore !")
       .cancelColor()
       .answerButton(Answer::OK, "Select Color for Gangue !")
@@ -75,7 +73,6 @@ TEST(Colors, EachDialogKeepsItsColourWhenCancelled) {
   EXPECT_EQ(s.state.views.cevrenk, 100);
   EXPECT_EQ(s.state.views.ganguerenk, 300);
   EXPECT_EQ(s.state.ui.label(1), "Select Color for Gangue !");
-  EXPECT_FALSE(s.state.flags.sonkesmod);
 }
 
 TEST(Colors, ChoosingClassesRedrawsOnlyAViewThatIsOn) {
