@@ -92,10 +92,6 @@ class ScenarioRun {
       return Form_MouseDown(session_.state, 1, 0, static_cast<float>(numberArg(args[0])),
                             static_cast<float>(numberArg(args[1])));
     }
-    if (verb == "key") {
-      need(args, 1, "key takes a key code");
-      return Form_KeyDown(session_.state, static_cast<int>(numberArg(args[0])));
-    }
     if (verb == "print-form") return printForm();
     if (verb == "print-row") return printRow(args);
     if (verb == "expect-label") return expectLabel(rest);
@@ -131,10 +127,7 @@ class ScenarioRun {
   void printForm() {
     for (const std::string& op : session_.form.describeSinceClear()) out_ << op << "\n";
     State& s = session_.state;
-    std::vector<std::string> names;
-    for (const std::string* legend : {&s.network.oreLegend, &s.network.gangueLegend}) {
-      if (!legend->empty()) names.push_back(*legend);
-    }
+    std::vector<std::string> names{s.network.oreLegend, s.network.gangueLegend};
     for (int i = 1; i <= s.markers.shapesay; ++i) names.push_back(s.markers.names[i]);
     for (const std::string& name : names) {
       const ShapeControl& b = s.ui.shape(name);
