@@ -7,6 +7,7 @@
 #include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <tuple>
 
 #include "commands/menu.h"
 #include "commands/procedures.h"
@@ -178,20 +179,18 @@ void MainWindow::connectForm() {
   connect(form, &FormView::pressed, this, [this](int button, float x, float y) {
     runCommand([=, this] { Form_MouseDown(state_, button, 0, x, y); });
   });
-  const struct {
-    const char* name;
-    const char* caption;
-    const char* tip;
-    int left;
-  } buttons[] = {{"PagePrevious", "< Holes", "The holes before these (PageUp)", 100},
-                 {"PageNext", "Holes >", "The holes after these (PageDown)", 170}};
-  for (const auto& spec : buttons) {
-    auto* button = addPanel(widgets_, spec.name, new QToolButton(form));
-    button->setText(spec.caption);
-    button->setToolTip(spec.tip);
-    button->move(spec.left, 4);
+  // Side by side at the top of the form, right of the legend.
+  int left = 100;
+  for (const auto& [name, caption, tip] :
+       {std::tuple{"PagePrevious", "< Holes", "The holes before these (PageUp)"},
+        std::tuple{"PageNext", "Holes >", "The holes after these (PageDown)"}}) {
+    auto* button = addPanel(widgets_, name, new QToolButton(form));
+    button->setText(caption);
+    button->setToolTip(tip);
+    button->setGeometry(QRect(QPoint(left, 4), button->sizeHint()));
+    left += button->width() + 4;
     button->hide();
-    const Procedure procedure = findProcedure(std::string(spec.name) + "_Click");
+    const Procedure procedure = findProcedure(std::string(name) + "_Click");
     connect(button, &QToolButton::clicked, this, [this, procedure] { runProcedure(procedure); });
   }
   for (const auto& [key, code] : {std::pair{Qt::Key_PageUp, 33}, std::pair{Qt::Key_PageDown, 34}}) {
