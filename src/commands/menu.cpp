@@ -28,7 +28,7 @@ const std::vector<MenuItem>& menuItems() {
       {"Mnharita", "", "&Triangle", "", nullptr, false},
       {"Mnucgenciz", "Mnharita", "&Draw", "", nullptr, false},
       {"Mncizek", "Mnucgenciz", "&Add", "", Mncizek_Click, false},
-      {"Mnsonkes", "Mnucgenciz", "&Select-Cut", "", nullptr, false},
+      {"Mnsonkes", "Mnucgenciz", "&Select-Cut", "", Mnsonkes_Click, false},
       {"Mncizduz", "Mnucgenciz", "&Edit", "", Mncizduz_Click, false},
       {"Mncizisil", "Mnucgenciz", "&Delete", "", Mncizisil_Click, false},
       {"Mncikart", "Mnharita", "&Remove Point", "", Mncikart_Click, false},

@@ -19,6 +19,8 @@ const ProcedureEntry kControlEvents[] = {
     {"Combo5_Click", Combo5_Click}, {"Combo4_Click", Combo4_Click}, {"Combo2_Click", Combo2_Click},
     {"Combo1_Click", Combo1_Click}, {"Command1_Click", nullptr},    {"Command2_Click", nullptr},
     {"HScroll1_Change", HScroll1_Change}, {"Form_Load", Form_Load}, {"ucgenplan", ucgenplan},
+    {"PageNext_Click", PageNext_Click},
+    {"PagePrevious_Click", PagePrevious_Click},
 };
 // clang-format on
 

@@ -221,12 +221,14 @@ struct Layout {
 };
 
 struct State {
-  State(Canvas& canvas, Dialogs& dialogs);
+  // `form` is the window's own surface, under its controls, where Picture1 is not shown.
+  State(Canvas& canvas, Dialogs& dialogs, Canvas& form);
   State(const State&) = delete;
   State& operator=(const State&) = delete;
 
   Canvas& canvas;
   Dialogs& dialogs;
+  Canvas& form;
   Controls ui;
   SheetOpener openSheet;
   // The replay's rows in their order, given by the program when it starts; the views

@@ -1,6 +1,6 @@
 // The commands of the reserve views: the 2D value maps, the 3D view, the display settings they
-// read, the overlays placed on the plan, and the limit selector that brings the overlays up to
-// date.
+// read, the overlays placed on the plan, the limit selector that brings the overlays up to
+// date, and the drill-log view in which ranges of layers are cut out of the ore.
 #pragma once
 
 #include "store/state.h"
@@ -49,5 +49,15 @@ void overlayDown(State& s, int button, float x, float y);
 // Selectors: the limit tenor. Brings every overlay whose counter is odd up to date for the
 // newly selected table, then runs the replay's tail.
 void Combo1_Click(State& s);
+
+// Triangle, Draw, Select-Cut: every hole as a column of bars on the window itself, a page
+// of holes at a time; two bars of one hole cut the range between them out of the ore, a
+// click on a marked hole's column head undoes its cuts. The page buttons and the keys
+// PageUp (33) and PageDown (34) turn to the holes before and after.
+void Mnsonkes_Click(State& s);
+void Form_MouseDown(State& s, int button, int shift, float x, float y);
+void Form_KeyDown(State& s, int keyCode);
+void PageNext_Click(State& s);
+void PagePrevious_Click(State& s);
 
 }  // namespace tri

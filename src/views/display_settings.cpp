@@ -51,7 +51,7 @@ void Mnrenksec_Click(State& s) {
   // then: ureciz when modureciz is on
   if (s.flags.sonkesmod) {
     removeMarkers(s);
-    // then: Mnsonkes_Click when sonkesmod is on
+    Mnsonkes_Click(s);
   }
   replayTail(s);
 }

@@ -4,12 +4,16 @@
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QShortcut>
+#include <QToolButton>
 #include <QVBoxLayout>
+#include <tuple>
 
 #include "commands/menu.h"
 #include "commands/procedures.h"
 #include "platform/fault.h"
 #include "project/commands.h"
+#include "views/commands.h"
 #include "window/print_panels.h"
 #include "window/qt_dialogs.h"
 
@@ -44,7 +48,7 @@ QString faultText(const Fault& fault) {
 MainWindow::MainWindow(Dialogs* dialogs, QWidget* parent)
     : QMainWindow(parent),
       ownDialogs_(dialogs ? nullptr : std::make_unique<QtDialogs>(this)),
-      state_(canvas_, dialogs ? *dialogs : *ownDialogs_),
+      state_(canvas_, dialogs ? *dialogs : *ownDialogs_, form_),
       reportFault_([this](const QString& title, const QString& text) {
         QMessageBox::critical(this, title, text);
       }) {
@@ -76,6 +80,9 @@ void MainWindow::buildWidgets() {
   layout->addWidget(buildStatusRow(central));
   setCentralWidget(central);
   connectCanvas();
+  connectForm();
+  state_.ui.combo3Height = widgets_.panels.at("Combo3")->sizeHint().height();
+  state_.ui.label1Height = widgets_.labels.at(1)->sizeHint().height();
 }
 
 QWidget* MainWindow::buildSelectorRow(QWidget* parent) {
@@ -101,7 +108,10 @@ QWidget* MainWindow::buildSelectorRow(QWidget* parent) {
 }
 
 QWidget* MainWindow::buildCanvasArea(QWidget* parent) {
-  auto* area = new QWidget(parent);
+  // The form's own surface lies under the panels and the canvas, and shows where they are
+  // hidden.
+  auto* area = new FormView(form_, parent);
+  widgets_.form = area;
   auto* layout = new QHBoxLayout(area);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);  // the print panels take no room while they are hidden
@@ -179,6 +189,33 @@ void MainWindow::connectCanvas() {
           [this](int width, int height) { resizeCanvas(QSize(width, height)); });
 }
 
+// The form's clicks, and the page buttons and keys of the drill-log view drawn on it.
+void MainWindow::connectForm() {
+  FormView* form = widgets_.form;
+  connect(form, &FormView::pressed, this, [this](int button, float x, float y) {
+    runCommand([=, this] { Form_MouseDown(state_, button, 0, x, y); });
+  });
+  // Side by side at the top of the form, right of the legend.
+  int left = 100;
+  for (const auto& [name, caption, tip] :
+       {std::tuple{"PagePrevious", "< Holes", "The holes before these (PageUp)"},
+        std::tuple{"PageNext", "Holes >", "The holes after these (PageDown)"}}) {
+    auto* button = addPanel(widgets_, name, new QToolButton(form));
+    button->setText(caption);
+    button->setToolTip(tip);
+    button->setGeometry(QRect(QPoint(left, 4), button->sizeHint()));
+    left += button->width() + 4;
+    button->hide();
+    const Procedure procedure = findProcedure(std::string(name) + "_Click");
+    connect(button, &QToolButton::clicked, this, [this, procedure] { runProcedure(procedure); });
+  }
+  for (const auto& [key, code] : {std::pair{Qt::Key_PageUp, 33}, std::pair{Qt::Key_PageDown, 34}}) {
+    auto* shortcut = new QShortcut(QKeySequence(key), this);
+    connect(shortcut, &QShortcut::activated, this,
+            [this, code] { runCommand([=, this] { Form_KeyDown(state_, code); }); });
+  }
+}
+
 void MainWindow::connectHooks() {
   state_.ui.onProgress = [this] { showProgress(); };
   state_.ui.onLayout = [this] { reflectControls(state_.ui, widgets_); };
@@ -220,6 +257,7 @@ void MainWindow::afterCommand() {
   }
   reflectControls(state_.ui, widgets_);
   widgets_.picture1->update();
+  widgets_.form->update();
   if (state_.ui.closeRequested) {
     close();
     return;

@@ -32,6 +32,8 @@ class MainWindow : public QMainWindow {
 
   State& state() { return state_; }
   const ImageCanvas& canvas() const { return canvas_; }
+  // The window's own surface, where the drill-log view is drawn.
+  const ImageCanvas& form() const { return form_; }
   void setFaultReporter(FaultReporter reporter) { reportFault_ = std::move(reporter); }
   // True once a run-time error has ended the program: the window runs nothing more.
   bool ended() const { return ended_; }
@@ -43,6 +45,7 @@ class MainWindow : public QMainWindow {
   QWidget* buildStatusRow(QWidget* parent);
   void buildWidgets();
   void connectCanvas();
+  void connectForm();
   void connectHooks();
 
   // Runs a procedure as a command; nullptr (a command not in this program yet) runs an
@@ -59,6 +62,7 @@ class MainWindow : public QMainWindow {
   void endWithFault(const QString& text);
 
   ImageCanvas canvas_;
+  ImageCanvas form_;
   std::unique_ptr<QtDialogs> ownDialogs_;
   State state_;
   ControlWidgets widgets_;

@@ -11,6 +11,8 @@
 #include "platform/fault.h"
 #include "platform/vbtext.h"
 #include "support/session.h"
+#include "support/stored_table.h"
+#include "views/commands.h"
 
 namespace tri {
 
@@ -93,6 +95,13 @@ class ScenarioRun {
       return;
     }
     if (verb == "print-frame") return printFrame();
+    if (verb == "click-form") {
+      need(args, 2, "click-form takes X Y");
+      return Form_MouseDown(session_.state, 1, 0, static_cast<float>(numberArg(args[0])),
+                            static_cast<float>(numberArg(args[1])));
+    }
+    if (verb == "print-form") return printForm();
+    if (verb == "print-row") return printRow(args);
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
     if (verb == "elevations") return elevations(words(rest));
@@ -124,6 +133,37 @@ class ScenarioRun {
     }
     if (p.empty() || std::filesystem::path(p).is_absolute()) return p;
     return (std::filesystem::path(folder_) / p).lexically_normal().string();
+  }
+
+  // The form's drawing since it was last cleared, then its shape controls: the two legend
+  // bars and the marker bars in the order they were made.
+  void printForm() {
+    for (const std::string& op : session_.form.describeSinceClear()) out_ << op << "\n";
+    State& s = session_.state;
+    std::vector<std::string> names{s.network.oreLegend, s.network.gangueLegend};
+    for (int i = 1; i <= s.markers.shapesay; ++i) names.push_back(s.markers.names[i]);
+    for (const std::string& name : names) {
+      const ShapeControl& b = s.ui.shape(name);
+      out_ << "shape " << name << " " << numberText(b.left) << " " << numberText(b.top) << " "
+           << numberText(b.width) << " " << numberText(b.height) << " fill=" << b.fillColor
+           << " line=" << b.borderColor << "\n";
+    }
+  }
+
+  // print-row TABLE ROW FIELD...: the fields of a row of the selected project's file.
+  void printRow(const std::vector<std::string>& args) {
+    if (args.size() < 3) throw BadStatement("print-row takes TABLE ROW FIELD...");
+    const StoredTable table = readTable(session_.state.projectPath(), args[0]);
+    const int row = static_cast<int>(numberArg(args[1]));
+    out_ << args[0] << " " << row << ":";
+    for (size_t i = 2; i < args.size(); ++i) {
+      const Value& v = table.at(row, args[i]);
+      out_ << " " << args[i] << "="
+           << (v.isNull()     ? "Null"
+               : v.isNumber() ? numberText(v.asNumber())
+                              : v.asText());
+    }
+    out_ << "\n";
   }
 
   void answer(const std::string& rest) {
