@@ -98,6 +98,17 @@ TEST(OverlayCommands, OneItemIsArmedAtATimeEvenByTheLimitSelectorAndAnEvenUseDis
   EXPECT_FALSE(s.o().armed() || s.o().olceksay);
 }
 
+TEST(OverlayCommands, DragModeAndBothRemovalSelectionsDisarmButKeepThePlaces) {
+  for (const char* procedure : {"Mnkaydir_Click", "Mnucsec_Click", "Mncikart_Click"}) {
+    SCOPED_TRACE(procedure);
+    OverlaySession s;
+    s.run("Mntoprez_Click");
+    s.click(700, 900);
+    s.run(procedure);
+    EXPECT_TRUE(!s.o().armed() && s.o().yazikonum[6].x == 700);
+  }
+}
+
 TEST(OverlayCommands, AddingOrEditingADrawingDisarmsAndForgetsThePlaces) {
   for (const char* procedure : {"Mncizduz_Click", "Mncizek_Click"}) {
     SCOPED_TRACE(procedure);
