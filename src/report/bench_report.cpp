@@ -31,7 +31,8 @@ std::vector<BenchRow> benchScan(ReportProject& project,
                                 const std::string& lithology, std::optional<double> limit) {
   ImageCanvas canvas(1, 1);
   NoDialogs dialogs;
-  State s(canvas, dialogs);
+  ImageCanvas form(1, 1);
+  State s(canvas, dialogs, form);
   Database& db = project.database();
   {
     // The holes the scan walks: those of the plan, as kor lists them.
