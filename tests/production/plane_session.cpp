@@ -2,8 +2,6 @@
 
 #include <memory>
 
-#include "support/stored_table.h"
-
 namespace tri {
 
 GridSheet planeSheet(const PointSets& sets) {
@@ -29,20 +27,6 @@ void PlaneSession::readPlane(const std::vector<GridSheet>& readings,
   dialogs.answerOpen("plane.xls", "Select File with Coordinate Data");
   for (Color c : colors) dialogs.answerColor(c);
   run("Mnauis_Click");
-}
-
-std::vector<std::string> PlaneSession::outline(const char* table, int n) const {
-  const StoredTable t = readTable(path, table);
-  const std::string x = "xx" + std::to_string(n), y = "yy" + std::to_string(n);
-  const std::string ad = "ad" + std::to_string(n);
-  std::vector<std::string> corners;
-  for (int r = 1; r <= static_cast<int>(t.rows.size()); ++r) {
-    const std::string name = t.text(r, ad);
-    if (name == "al" || name == "bas") break;
-    corners.push_back(name + " " + std::to_string(t.number(r, x)) + " " +
-                      std::to_string(t.number(r, y)));
-  }
-  return corners;
 }
 
 }  // namespace tri

@@ -1,6 +1,5 @@
 // A session over the cluster project (holes C-01 .. C-14, x 500 to 650, y 800 to 950), or
-// another, whose plane workbook is read from sheets in memory, with the stored outlines of
-// aukor and askor read back.
+// another, whose plane workbook is read from sheets in memory.
 #pragma once
 
 #include <string>
@@ -22,9 +21,6 @@ struct PlaneSession : Session {
   // Runs Mnauis_Click; the workbook's first reading gives the first sheet, later readings
   // the last. Each set takes the next colour of `colors`.
   void readPlane(const std::vector<GridSheet>& readings, const std::vector<Color>& colors);
-  // The corners of group n from the head row to the first free row: "name x y", in stored
-  // thousandths.
-  std::vector<std::string> outline(const char* table, int n) const;
 
   std::string path;
 };

@@ -1,5 +1,6 @@
 #include "support/scenario.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -10,6 +11,7 @@
 #include "platform/fault.h"
 #include "platform/vbtext.h"
 #include "support/session.h"
+#include "support/stored_table.h"
 
 namespace tri {
 
@@ -85,6 +87,7 @@ class ScenarioRun {
       for (const std::string& op : session_.canvas.describeSinceClear()) out_ << op << "\n";
       return;
     }
+    if (verb == "print-rows") return printRows(args);
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
     if (verb == "elevations") return elevations(words(rest));
@@ -154,6 +157,27 @@ class ScenarioRun {
     const std::string p = path(text);
     if (p.empty()) throw BadStatement("save-image without a path");
     if (!session_.canvas.save(p)) throw BadStatement("cannot write the image " + p);
+  }
+
+  // Rows FROM to TO of a table of the selected project, the fields named, one row a line.
+  void printRows(const std::vector<std::string>& args) {
+    if (args.size() < 4) throw BadStatement("print-rows takes TABLE FROM TO FIELD...");
+    const StoredTable t = readTable(session_.state.projectPath(), args[0]);
+    for (size_t f = 3; f < args.size(); ++f) {
+      auto named = [&](const FieldDef& d) { return d.name == args[f]; };
+      if (std::ranges::none_of(t.fields, named)) throw BadStatement("no field " + args[f]);
+    }
+    const int from = static_cast<int>(numberArg(args[1])),
+              to = static_cast<int>(numberArg(args[2]));
+    if (from < 1 || to > static_cast<int>(t.rows.size())) throw BadStatement("no such rows");
+    for (int r = from; r <= to; ++r) {
+      out_ << args[0] << " " << r << ":";
+      for (size_t f = 3; f < args.size(); ++f) {
+        const Value& v = t.at(r, args[f]);
+        out_ << " " << (v.isNumber() ? numberText(v.asNumber()) : v.isNull() ? "Null" : v.asText());
+      }
+      out_ << "\n";
+    }
   }
 
   void expectLabel(const std::string& rest) {
