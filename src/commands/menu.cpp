@@ -4,6 +4,7 @@
 
 #include "canvas/commands.h"
 #include "limit/commands.h"
+#include "production/commands.h"
 #include "project/commands.h"
 #include "scan/commands.h"
 #include "triangles/commands.h"
@@ -54,12 +55,12 @@ const std::vector<MenuItem>& menuItems() {
       // Production
       {"Mnuret", "", "&Production", "", nullptr, false},
       {"Mneveri", "Mnuret", "&Data", "", nullptr, false},
-      {"Mnauis", "Mneveri", "&Plane", "", nullptr, false},
+      {"Mnauis", "Mneveri", "&Plane", "", Mnauis_Click, false},
       {"Mnualan", "Mnuret", "&Area", "", nullptr, false},
       {"Mnuaciz", "Mnualan", "&Draw", "", nullptr, false},
-      {"Mnnuciz", "Mnuaciz", "&Point", "", nullptr, false},
-      {"Mnsuciz", "Mnuaciz", "&Free", "", nullptr, false},
-      {"Mnuasil", "Mnualan", "&Delete", "", nullptr, false},
+      {"Mnnuciz", "Mnuaciz", "&Point", "", Mnnuciz_Click, false},
+      {"Mnsuciz", "Mnuaciz", "&Free", "", Mnsuciz_Click, false},
+      {"Mnuasil", "Mnualan", "&Delete", "", Mnuasil_Click, false},
       {"Mnudigi", "Mnuret", "&Digitize", "", nullptr, false},
       {"Mnurkot", "Mnudigi", "&Elevation", "", nullptr, false},
       {"Mnuresec", "Mnudigi", "&Select", "", nullptr, false},

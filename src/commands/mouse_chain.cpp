@@ -3,6 +3,7 @@
 #include "commands/procedures.h"
 #include "platform/store.h"
 #include "platform/vbtext.h"
+#include "production/commands.h"
 #include "scan/commands.h"
 #include "store/hole_lists.h"
 #include "store/project_format.h"
@@ -41,8 +42,8 @@ const MouseRow kMouseDownChain[] = {
     {never,        nullptr},        // digitized closing (left)
     {trtumOn,      trtumDown},      // scan of all triangles (right)
     {trtekOn,      trtekDown},      // scan of one triangle (right)
-    {never,        nullptr},        // production area by points
-    {never,        nullptr},        // production area drawn freely
+    {naucizOn,     naucizDown},     // production area by points
+    {suacizOn,     suacizDown},     // production area drawn freely
     {kaydirOn,     kaydirDown},     // start of a drag (right)
     {never,        nullptr},        // triangle selection for digitizing (left)
     {tiklamaOn,    tiklamaDown},    // scan selection (left)
@@ -94,6 +95,7 @@ void followWithBand(State& s, float x, float y) {
 }  // namespace
 
 void Picture1_MouseMove(State& s, int, float x, float y) {
+  followOutline(s, x, y);
   if (s.flags.modsucgen || s.flags.modtiklama) hoverOverHole(s, x, y);
   if (s.flags.modcizim) followWithBand(s, x, y);
 }

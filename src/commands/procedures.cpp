@@ -4,6 +4,7 @@
 
 #include "canvas/commands.h"
 #include "commands/menu.h"
+#include "production/commands.h"
 #include "project/commands.h"
 #include "scan/commands.h"
 #include "triangles/commands.h"
@@ -36,8 +37,8 @@ const ReplayRow kReplay[] = {
     {&Flags::modurort,       nullptr,   nullptr},                 // production averages
     {&Flags::moduretopr,     nullptr,   nullptr},                 // production totals
     {&Flags::modsucgen2,     ucgenplan, nullptr},                 // triangle selection over the network
-    {&Flags::modureciz2,     ucgenplan, nullptr},                 // production areas over the network
-    {&Flags::modureciz,      nullptr,   nullptr},                 // production areas
+    {&Flags::modureciz2,     ucgenplan, ureciz},                  // production areas over the network
+    {&Flags::modureciz,      nullptr,   ureciz},                  // production areas
     {&Flags::modtiklama,     ucgenplan, Mntiklama_Click},         // scan selection
     {&Flags::modtrtek,       nullptr,   Mntrtek_Click},           // scan of one triangle
     {&Flags::modtrtum,       nullptr,   Mntrtum_Click},           // scan of all triangles

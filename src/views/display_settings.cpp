@@ -2,6 +2,7 @@
 // command changes state only and then repeats what is on the canvas.
 #include "canvas/replay.h"
 #include "platform/vbtext.h"
+#include "production/commands.h"
 #include "views/commands.h"
 
 namespace tri {
@@ -48,7 +49,7 @@ void Mngridgoster_Click(State& s) {
 void Mnrenksec_Click(State& s) {
   s.views.cevrenk = askColor(s, "Select Color for Ore !");
   s.views.ganguerenk = askColor(s, "Select Color for Gangue !");
-  // then: ureciz when modureciz is on
+  if (s.flags.modureciz) ureciz(s);
   if (s.flags.sonkesmod) {
     removeMarkers(s);
     Mnsonkes_Click(s);
@@ -62,14 +63,14 @@ void MNrrezerv_Click(State& s) {
   w.renksay = toNumber(
       s.dialogs.inputBox("In how many colors would you like to show the reserve amounts? ", ""));
   for (long j = 1; j <= w.renksay; ++j) w.renkler[j] = chooseInDialog(s, s.colors.dialog1);
-  // then: ureciz when modureciz is on
+  if (s.flags.modureciz) ureciz(s);
   replayTail(s);
 }
 
 void Mnrmiktr_Click(State& s) {
   removeMarkers(s);
   chooseInDialog(s, s.colors.dialog2);
-  // then: ureciz when modureciz is on
+  if (s.flags.modureciz) ureciz(s);
   replayTail(s);
 }
 

@@ -1,5 +1,6 @@
 #include "support/scenario.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -101,7 +102,7 @@ class ScenarioRun {
                             static_cast<float>(numberArg(args[1])));
     }
     if (verb == "print-form") return printForm();
-    if (verb == "print-row") return printRow(args);
+    if (verb == "print-rows") return printRows(args);
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
     if (verb == "elevations") return elevations(words(rest));
@@ -148,22 +149,6 @@ class ScenarioRun {
            << numberText(b.width) << " " << numberText(b.height) << " fill=" << b.fillColor
            << " line=" << b.borderColor << "\n";
     }
-  }
-
-  // print-row TABLE ROW FIELD...: the fields of a row of the selected project's file.
-  void printRow(const std::vector<std::string>& args) {
-    if (args.size() < 3) throw BadStatement("print-row takes TABLE ROW FIELD...");
-    const StoredTable table = readTable(session_.state.projectPath(), args[0]);
-    const int row = static_cast<int>(numberArg(args[1]));
-    out_ << args[0] << " " << row << ":";
-    for (size_t i = 2; i < args.size(); ++i) {
-      const Value& v = table.at(row, args[i]);
-      out_ << " " << args[i] << "="
-           << (v.isNull()     ? "Null"
-               : v.isNumber() ? numberText(v.asNumber())
-                              : v.asText());
-    }
-    out_ << "\n";
   }
 
   void answer(const std::string& rest) {
@@ -215,6 +200,27 @@ class ScenarioRun {
     const std::string p = path(text);
     if (p.empty()) throw BadStatement("save-image without a path");
     if (!session_.canvas.save(p)) throw BadStatement("cannot write the image " + p);
+  }
+
+  // Rows FROM to TO of a table of the selected project, the fields named, one row a line.
+  void printRows(const std::vector<std::string>& args) {
+    if (args.size() < 4) throw BadStatement("print-rows takes TABLE FROM TO FIELD...");
+    const StoredTable t = readTable(session_.state.projectPath(), args[0]);
+    for (size_t f = 3; f < args.size(); ++f) {
+      auto named = [&](const FieldDef& d) { return d.name == args[f]; };
+      if (std::ranges::none_of(t.fields, named)) throw BadStatement("no field " + args[f]);
+    }
+    const int from = static_cast<int>(numberArg(args[1])),
+              to = static_cast<int>(numberArg(args[2]));
+    if (from < 1 || to > static_cast<int>(t.rows.size())) throw BadStatement("no such rows");
+    for (int r = from; r <= to; ++r) {
+      out_ << args[0] << " " << r << ":";
+      for (size_t f = 3; f < args.size(); ++f) {
+        const Value& v = t.at(r, args[f]);
+        out_ << " " << (v.isNumber() ? numberText(v.asNumber()) : v.isNull() ? "Null" : v.asText());
+      }
+      out_ << "\n";
+    }
   }
 
   void expectLabel(const std::string& rest) {

@@ -8,6 +8,7 @@
 //   expect-label N TEXT     expect-combo ComboN TEXT...   (entries after the title, '|'-separated)
 //   elevations UP DOWN      (the bench of the scan, as the elevation command's prompts set it)
 //   scroll VALUE            (the scroll bar under the canvas set to 0 .. 360: its change event)
+//   print-rows TABLE FROM TO FIELD...   (rows of a table of the selected project, one a line)
 //
 // print-canvas prints every drawing operation on the canvas since its last clear, one a
 // line, in the canvas log's form (docs/scenarios.md).
