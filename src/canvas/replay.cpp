@@ -16,10 +16,20 @@ void runRow(State& s, const ReplayRow& row) {
 
 void removeMarkers(State& s) {
   s.flags.sonkesmod = false;
-  if (s.markers.shapesay > 0) {
-    s.markers.names.clear();
-    s.markers.shapesay = 0;
+  removeMarkerShapes(s);
+}
+
+void removeMarkerShapes(State& s) {
+  Markers& m = s.markers;
+  if (m.shapesay <= 0) return;
+  for (int i = 1; i <= m.shapesay; ++i) s.ui.removeShape(m.names[i]);
+  Network& n = s.network;
+  for (std::string* legend : {&n.oreLegend, &n.gangueLegend}) {
+    s.ui.removeShape(*legend);
+    legend->clear();
   }
+  m.names.clear();
+  m.shapesay = 0;
 }
 
 void clearDrawingFlags(State& s) {

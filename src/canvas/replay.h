@@ -8,6 +8,9 @@ namespace tri {
 
 // Step A: ends the Select-Cut picking and removes its marker shapes.
 void removeMarkers(State& s);
+// The shapes of step A alone: the bars by the names they were made under and the two
+// legend bars, when there are bars.
+void removeMarkerShapes(State& s);
 // Clears the flags ilkmod and gridciz.
 void clearDrawingFlags(State& s);
 // Step B: clears the canvas and the two drawing flags.

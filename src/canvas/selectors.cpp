@@ -91,9 +91,4 @@ void Combo2_Click(State& s) {
   replayTail(s);
 }
 
-void Combo1_Click(State& s) {
-  if (s.ui.combo1.text() == kLimitTitle && s.ui.combo2.text() == kDrawingTitle) return;
-  replayTail(s);
-}
-
 }  // namespace tri

@@ -1,4 +1,5 @@
 // The mouse chain of the canvas: every branch whose mode flag is on, in the fixed order.
+#include "canvas/commands.h"
 #include "commands/procedures.h"
 #include "platform/store.h"
 #include "platform/vbtext.h"
@@ -8,6 +9,7 @@
 #include "store/project_format.h"
 #include "triangles/commands.h"
 #include "triangles/entry.h"
+#include "views/commands.h"
 
 namespace tri {
 
@@ -24,6 +26,8 @@ struct MouseRow {
 
 bool never(const State&) { return false; }
 bool entryMode(const State& s) { return s.flags.modcizim; }
+bool cikartOn(const State& s) { return s.flags.modcikart; }
+bool ucsecOn(const State& s) { return s.flags.moducsec; }
 
 void enterTriangle(State& s, int button, float x, float y) { ucgeciz(s, x, y, button); }
 
@@ -40,12 +44,12 @@ const MouseRow kMouseDownChain[] = {
     {trtekOn,      trtekDown},      // scan of one triangle (right)
     {naucizOn,     naucizDown},     // production area by points
     {suacizOn,     suacizDown},     // production area drawn freely
-    {never,        nullptr},        // start of a drag (right)
+    {kaydirOn,     kaydirDown},     // start of a drag (right)
     {sucgen2On,    sucgen2Down},    // triangle selection for digitizing (left)
     {tiklamaOn,    tiklamaDown},    // scan selection (left)
-    {never,        nullptr},        // hole removal
-    {never,        nullptr},        // triangle removal
-    {never,        nullptr},        // overlays (left)
+    {cikartOn,     removeHoleAt},   // hole removal
+    {ucsecOn,      pickCornerAt},   // triangle removal
+    {overlayOn,    overlayDown},    // overlays (left)
     {entryMode,    enterTriangle},  // triangle entry, every button
 };
 // clang-format on
@@ -96,6 +100,6 @@ void Picture1_MouseMove(State& s, int, float x, float y) {
   if (s.flags.modcizim) followWithBand(s, x, y);
 }
 
-void Picture1_MouseUp(State&, int, float, float) {}
+void Picture1_MouseUp(State& s, int button, float x, float y) { kaydirUp(s, button, x, y); }
 
 }  // namespace tri

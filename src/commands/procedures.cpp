@@ -15,11 +15,15 @@ namespace tri {
 namespace {
 
 // The events of controls other than the menu, and the repaint that scenarios ask for.
+// clang-format off
 const ProcedureEntry kControlEvents[] = {
     {"Combo5_Click", Combo5_Click}, {"Combo4_Click", Combo4_Click}, {"Combo2_Click", Combo2_Click},
     {"Combo1_Click", Combo1_Click}, {"Command1_Click", nullptr},    {"Command2_Click", nullptr},
-    {"HScroll1_Change", nullptr},   {"Form_Load", Form_Load},       {"ucgenplan", ucgenplan},
+    {"HScroll1_Change", HScroll1_Change}, {"Form_Load", Form_Load}, {"ucgenplan", ucgenplan},
+    {"PageNext_Click", PageNext_Click},
+    {"PagePrevious_Click", PagePrevious_Click},
 };
+// clang-format on
 
 // The redraw replay, in its required order: the production, scan and digitizing tools,
 // then from the tenor map on the tail that the selectors also run.
@@ -41,9 +45,9 @@ const ReplayRow kReplay[] = {
     {&Flags::modyuzdeten,    nullptr,   Mnyuzdeten_Click},        // tenor map
     {&Flags::modrezton,      nullptr,   Mnrezton_Click},          // reserve tonnage map
     {&Flags::modgenelrezerv, nullptr,   Mngenelrezervler_Click},  // general reserve map
-    {&Flags::modrecboy,      nullptr,   nullptr},                 // 3D reserve view
-    {&Flags::modcikart,      nullptr,   nullptr},                 // hole removal
-    {&Flags::moducsec,       nullptr,   nullptr},                 // triangle removal
+    {&Flags::modrecboy,      nullptr,   Mnrecboy_Click},          // 3D reserve view
+    {&Flags::modcikart,      nullptr,   Mncikart_Click},          // hole removal
+    {&Flags::moducsec,       nullptr,   Mnucsec_Click},           // triangle removal
     {&Flags::modcizim,       nullptr,   ucgenplan},               // triangle entry: the network
 };
 // clang-format on

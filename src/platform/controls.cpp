@@ -42,8 +42,8 @@ namespace {
 }  // namespace
 
 Controls::Controls() {
-  for (const char* name :
-       {"Picture1", "Picture2", "HScroll1", "Combo3", "Command1", "Command2", "Frame1", "Frame2"}) {
+  for (const char* name : {"Picture1", "Picture2", "HScroll1", "Combo3", "Command1", "Command2",
+                           "Frame1", "Frame2", "PagePrevious", "PageNext"}) {
     visible_[name] = false;
   }
   visible_["Picture1"] = true;
@@ -89,6 +89,34 @@ void Controls::show(const std::string& name, bool on) {
   auto it = visible_.find(name);
   if (it == visible_.end()) noSuchControl(name);
   it->second = on;
+}
+
+ShapeControl& Controls::addShape(const std::string& className, const std::string& name) {
+  if (className != "VB.Shape") {
+    throw Fault(FaultKind::InvalidProcedureCall, "no control class \"" + className + "\"");
+  }
+  const auto [it, added] = shapes_.try_emplace(name);
+  if (!added) {
+    throw Fault(FaultKind::InvalidProcedureCall,
+                "the window has a control named \"" + name + "\" already");
+  }
+  return it->second;
+}
+
+void Controls::removeShape(const std::string& name) {
+  if (shapes_.erase(name) == 0) noSuchControl(name);
+}
+
+ShapeControl& Controls::shape(const std::string& name) {
+  auto it = shapes_.find(name);
+  if (it == shapes_.end()) noSuchControl(name);
+  return it->second;
+}
+
+int Controls::controlCount() const {
+  // The selectors, the labels and Line1 beside the menu items, the panels and the shapes.
+  constexpr size_t kFixed = 4 + 13 + 1;
+  return static_cast<int>(kFixed + menu_.size() + visible_.size() + shapes_.size());
 }
 
 }  // namespace tri

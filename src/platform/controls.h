@@ -44,6 +44,16 @@ struct MenuState {
   bool checked = false;
 };
 
+// A shape control added to the window at run time: a rectangle in the window's own units
+// (pixels), with its outline and fill colours; fill style 0 is solid, 1 transparent.
+struct ShapeControl {
+  double left = 0, top = 0, width = 0, height = 0;
+  int borderColor = 0;
+  int fillColor = 0;
+  int fillStyle = 1;
+  int shape = 0;  // 0: rectangle
+};
+
 struct LineControl {
   bool visible = false;
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
@@ -77,11 +87,26 @@ class Controls {
   void check(const std::string& name, bool on = true) { menu(name).checked = on; }
 
   // Visibility of the panels and controls that come and go: Picture1, Picture2, HScroll1,
-  // Combo3, Command1, Command2, Frame1 and Frame2. Another name is a "Control not found"
-  // Fault.
+  // Combo3, Command1, Command2, Frame1, Frame2, and the page buttons PagePrevious and
+  // PageNext of the drill-log view. Another name is a "Control not found" Fault.
   bool visible(const std::string& name) const;
   void show(const std::string& name, bool on = true);
   void hide(const std::string& name) { show(name, false); }
+
+  // Shape controls added at run time, by name. The class must be "VB.Shape" and the name
+  // new, else an "Invalid procedure call" Fault; an unknown name to remove or change is
+  // a "Control not found" Fault.
+  ShapeControl& addShape(const std::string& className, const std::string& name);
+  void removeShape(const std::string& name);
+  ShapeControl& shape(const std::string& name);
+  const std::map<std::string, ShapeControl>& shapes() const { return shapes_; }
+  // The window's control count: its fixed controls (menu items among them) and the
+  // shapes added at run time.
+  int controlCount() const;
+
+  // The heights the window's layout gives Combo3 and Label1, in pixels.
+  int combo3Height = 21;
+  int label1Height = 17;
 
   LineControl line1;
   int hscroll1Value = 0;
@@ -99,6 +124,7 @@ class Controls {
   std::array<std::string, 14> labels_;
   std::map<std::string, MenuState> menu_;
   std::map<std::string, bool> visible_;
+  std::map<std::string, ShapeControl> shapes_;
 };
 
 }  // namespace tri

@@ -96,6 +96,9 @@ class Recordset {
   void setNull(const std::string& field);
   void update();
   void cancelUpdate();
+  // edit(), set() of one field and update() in one step, with their result and their
+  // Faults; the row's other fields are neither read nor written again.
+  void updateField(const std::string& field, double number);
   // Deletes the current row. The deleted row stays current, without fields, until a move.
   void remove();
 
@@ -133,6 +136,9 @@ class Database {
   // Opens an existing file; a missing file, or one that is not a project database, is a
   // Fault that says so.
   static Database open(const std::string& path);
+  // Opens an existing file for reading only, the same checks first; every write is a Fault
+  // of the engine, and a program that writes the file meanwhile is never held up.
+  static Database openReadOnly(const std::string& path);
 
   Database(Database&&) noexcept;
   Database& operator=(Database&&) noexcept;

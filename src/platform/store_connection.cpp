@@ -150,15 +150,27 @@ void TableInfo::releaseRow() {
   positioned = false;
 }
 
+sqlite3_stmt* TableInfo::fieldUpdate(int field, Connection& connection) {
+  if (fieldUpdateField != field || !fieldUpdateStatement.isPrepared()) {
+    fieldUpdateStatement =
+        connection.prepare("UPDATE " + sqlName(name) + " SET " + sqlName(fields[field].name) +
+                               "=?1 WHERE " + rowid + "=?2",
+                           "cannot update table " + shown(name), true);
+    fieldUpdateField = field;
+  }
+  return fieldUpdateStatement.get();
+}
+
 void TableInfo::finalize() {
   for (SqliteStatement& statement : statements) statement.finalize();
+  fieldUpdateStatement.finalize();
   positioned = false;
 }
 
-std::shared_ptr<Connection> Connection::connect(const std::string& path) {
+std::shared_ptr<Connection> Connection::connect(const std::string& path, bool readOnly) {
   sqlite3* raw = nullptr;
-  int rc =
-      sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+  const int mode = readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+  int rc = sqlite3_open_v2(path.c_str(), &raw, mode | SQLITE_OPEN_NOMUTEX, nullptr);
   auto connection = std::make_shared<Connection>();
   connection->path = path;
   connection->db = SqliteConnection(raw);

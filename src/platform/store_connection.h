@@ -56,6 +56,8 @@ struct TableInfo {
   // room for that column: its rows are sought one by one.
   bool rowsCarryRowid = true;
   std::array<SqliteStatement, store_internal::kStatementKinds> statements;
+  SqliteStatement fieldUpdateStatement;
+  int fieldUpdateField = -1;
   // The fields the rows statement reads: those asked for so far, or every field once many
   // have been asked for. Rows are mostly read far more narrowly than they are wide (a list of
   // holes reads 3 of 255 fields), and the engine computes every column it selects.
@@ -75,6 +77,8 @@ struct TableInfo {
   int resultColumn(int field);
   void selectAllFields();
   sqlite3_stmt* statement(store_internal::Statement kind, Connection& connection);
+  // The statement that writes one field of a row, kept for the field it was last made for.
+  sqlite3_stmt* fieldUpdate(int field, Connection& connection);
   sqlite3_stmt* rows() const {
     return statements[static_cast<size_t>(store_internal::Statement::Rows)].get();
   }
@@ -99,7 +103,8 @@ struct Connection {
   ~Connection() { close(); }
 
   // Opens an existing database file for reading and writing, with the journal of the store.
-  static std::shared_ptr<Connection> connect(const std::string& path);
+  // Read-only: the engine refuses every write, and readers never stand in a writer's way.
+  static std::shared_ptr<Connection> connect(const std::string& path, bool readOnly = false);
   bool isOpen() const { return db.isOpen(); }
   [[noreturn]] void engineFault(const std::string& what) const;
   // Builds the message while the statement still holds the failure, then ends its run.

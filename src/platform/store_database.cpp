@@ -94,6 +94,11 @@ Database Database::open(const std::string& path) {
   return Database(Connection::connect(path));
 }
 
+Database Database::openReadOnly(const std::string& path) {
+  requireProjectFile(path);
+  return Database(Connection::connect(path, true));
+}
+
 const std::string& Database::path() const {
   static const std::string none;
   return connection_ ? connection_->path : none;

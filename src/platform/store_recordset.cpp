@@ -1,11 +1,8 @@
-// The recordset: a cursor over one table's rows, with its reads, moves and edit buffer.
-#include "platform/store.h"
-
+// The recordset: a cursor over one table's rows, its moves and its reads.
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
-#include "platform/store_connection.h"
+#include "platform/store_recordset_impl.h"
 #include "platform/vbtext.h"
 
 namespace tri {
@@ -13,17 +10,20 @@ namespace tri {
 namespace {
 
 using store_internal::columnText;
+using store_internal::columnValue;
+using store_internal::Editing;
 using store_internal::equalNoCase;
 using store_internal::fail;
+using store_internal::fitsLong;
 using store_internal::liveConnection;
+using store_internal::liveRows;
+using store_internal::liveState;
 using store_internal::shown;
 using store_internal::Statement;
 
-constexpr long kMaxTextChars = 255;
-constexpr double kLongMin = std::numeric_limits<std::int32_t>::min();
-constexpr double kLongMax = std::numeric_limits<std::int32_t>::max();
+}  // namespace
 
-bool fitsLong(double x) { return x >= kLongMin && x <= kLongMax; }
+namespace store_internal {
 
 // A stored value as its field's type reads it. The store itself writes only integers into
 // Long fields and texts into Text fields; other storage comes from files made elsewhere.
@@ -48,101 +48,7 @@ Value columnValue(sqlite3_stmt* stmt, int column, FieldType type) {
   }
 }
 
-void bindValue(sqlite3_stmt* stmt, int parameter, const Value& value) {
-  if (value.isNumber()) {
-    sqlite3_bind_int(stmt, parameter, value.asNumber());
-  } else if (value.isText()) {
-    const std::string& text = value.asText();
-    sqlite3_bind_text(stmt, parameter, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
-  } else {
-    sqlite3_bind_null(stmt, parameter);
-  }
-}
-
-enum class Editing { None, NewRow, CurrentRow };
-
-}  // namespace
-
-struct Recordset::Impl {
-  std::string name;
-  std::shared_ptr<Connection> connection;
-  std::shared_ptr<TableInfo> table;
-  // The row list is read when it is first needed: a recordset that only appends rows never
-  // reads it.
-  std::vector<std::int64_t> rowids;
-  bool rowsKnown = false;
-  long appendedBeforeLoad = 0;
-  std::uint64_t seenVersion = 0;
-  // -1 is before the first row, rowids.size() after the last.
-  long position = 0;
-  // After remove() the deleted row stays current: `position` is then the row after it.
-  bool onDeletedRow = false;
-  std::int64_t deletedRowid = 0;
-  Editing editing = Editing::None;
-  std::vector<Value> buffer;
-  std::int64_t editedRowid = 0;
-  bool closed = false;
-  mutable int lastColumn = -1;
-
-  Impl& live();
-  long count() const { return static_cast<long>(rowids.size()); }
-  bool atBof() const { return !onDeletedRow && (rowids.empty() || position < 0); }
-  bool atEof() const { return !onDeletedRow && (rowids.empty() || position >= count()); }
-
-  void loadRows();
-  void ensureRows();
-  void followChanges() {
-    if (rowsKnown && seenVersion != table->rowsVersion) reloadRows();
-  }
-  void reloadRows();
-  void leaveRow();
-  void moveForward(unsigned long steps);
-  void moveBack(unsigned long steps);
-
-  void requireCurrentRow() const;
-  // The row statement positioned on the current row.
-  sqlite3_stmt* currentRow();
-  sqlite3_stmt* positionOnCurrentRow();
-  int column(const std::string& field) const;
-  void requireField(int column) const;
-  FieldType typeOf(int column) const { return table->fields[column].type; }
-  std::string where(int column) const;
-  std::string rowLabel() const;
-  Value read(int column);
-  double numberOf(const Value& value, int column) const;
-  std::string textOf(const Value& value) const;
-
-  // `action` names what needed the buffer, such as "set" or "update".
-  void requireEditing(const char* action, int column) const;
-  Value fromNumber(int column, double number) const;
-  Value fromText(int column, const std::string& text) const;
-  void bindBuffer(sqlite3_stmt* stmt) const;
-  // `action` says what failed, as in "cannot <action> of table ...".
-  void stepWrite(sqlite3_stmt* stmt, const char* action);
-  void appendBuffer();
-  void writeBackBuffer();
-  void deleteCurrentRow();
-  void noteRowsChanged() { seenVersion = ++table->rowsVersion; }
-};
-
-namespace {
-
-// Access to a recordset's state, with a Fault for one that was moved away.
-template <typename ImplPointer>
-auto& liveState(const ImplPointer& impl) {
-  if (!impl) fail(FaultKind::Database, "the recordset was moved to another variable");
-  return impl->live();
-}
-
-// The same, for what needs the row list.
-template <typename ImplPointer>
-auto& liveRows(const ImplPointer& impl) {
-  auto& state = liveState(impl);
-  state.ensureRows();
-  return state;
-}
-
-}  // namespace
+}  // namespace store_internal
 
 Recordset::Impl& Recordset::Impl::live() {
   if (closed) fail(FaultKind::Database, "the recordset of table " + shown(name) + " is closed");
@@ -248,6 +154,17 @@ sqlite3_stmt* Recordset::Impl::currentRow() {
   return positionOnCurrentRow();
 }
 
+// A row a few places past the open statement's row is reached by stepping on: a fresh lookup
+// would end the statement's read transaction and start another, which costs far more.
+long Recordset::Impl::rowsAheadOfPositioned() const {
+  constexpr long kReadThrough = 8;
+  if (!table->rowsCarryRowid || !table->positioned) return 0;
+  for (long back = 1; back <= kReadThrough && back <= position; ++back) {
+    if (rowids[position - back] == table->positionedRowid) return back;
+  }
+  return 0;
+}
+
 sqlite3_stmt* Recordset::Impl::positionOnCurrentRow() {
   requireCurrentRow();
   std::int64_t rowid = rowids[position];
@@ -255,9 +172,11 @@ sqlite3_stmt* Recordset::Impl::positionOnCurrentRow() {
   auto onWantedRow = [&](int rc) {
     return rc == SQLITE_ROW && (!table->rowsCarryRowid || sqlite3_column_int64(stmt, 0) == rowid);
   };
-  bool nextRow = table->rowsCarryRowid && table->positioned && position > 0 &&
-                 rowids[position - 1] == table->positionedRowid;
-  int rc = nextRow ? sqlite3_step(stmt) : SQLITE_DONE;
+  int rc = SQLITE_DONE;
+  for (long ahead = rowsAheadOfPositioned(); ahead > 0; --ahead) {
+    rc = sqlite3_step(stmt);
+    if (rc != SQLITE_ROW || sqlite3_column_int64(stmt, 0) >= rowid) break;
+  }
   if (!onWantedRow(rc)) {
     sqlite3_reset(stmt);
     sqlite3_bind_int64(stmt, 1, rowid);
@@ -333,104 +252,6 @@ std::string Recordset::Impl::textOf(const Value& value) const {
   if (value.isText()) return value.asText();
   if (value.isNumber()) return numberText(value.asNumber());
   return {};
-}
-
-void Recordset::Impl::requireEditing(const char* action, int column) const {
-  if (editing != Editing::None) return;
-  std::string what = column < 0 ? "table " + shown(name) : where(column);
-  fail(FaultKind::Database,
-       std::string("Update or CancelUpdate without AddNew or Edit: ") + action + " of " + what);
-}
-
-Value Recordset::Impl::fromNumber(int column, double number) const {
-  if (typeOf(column) == FieldType::Text) return Value(numberText(number));
-  // Most numbers are whole already; rounding changes the FPU mode twice.
-  double whole = std::trunc(number) == number ? number : roundHalfEven(number, 0);
-  if (!fitsLong(whole)) {
-    fail(FaultKind::Overflow, numberText(number) + " does not fit " + where(column) +
-                                  ", a whole number from -2147483648 to 2147483647");
-  }
-  return Value(static_cast<std::int32_t>(whole));
-}
-
-Value Recordset::Impl::fromText(int column, const std::string& text) const {
-  if (typeOf(column) == FieldType::Long) {
-    double number;
-    try {
-      number = toNumber(text);
-    } catch (const Fault& fault) {
-      fail(fault.kind(), where(column) + " takes numbers: " + fault.message());
-    }
-    return fromNumber(column, number);
-  }
-  // A character takes at least one byte, so a short text needs no counting.
-  long length = text.size() > static_cast<size_t>(kMaxTextChars) ? charCount(text) : 0;
-  if (length > kMaxTextChars) {
-    fail(FaultKind::Database,
-         "The field is too small to accept the amount of data: " + where(column) +
-             " takes 255 characters, not " + std::to_string(length));
-  }
-  return Value(text);
-}
-
-void Recordset::Impl::bindBuffer(sqlite3_stmt* stmt) const {
-  for (size_t i = 0; i < buffer.size(); ++i) bindValue(stmt, static_cast<int>(i + 1), buffer[i]);
-}
-
-// Runs a write to its end; in autocommit mode it is committed when the step returns. The
-// texts bound without a copy are not read again: every run binds all its parameters anew.
-void Recordset::Impl::stepWrite(sqlite3_stmt* stmt, const char* action) {
-  int rc = sqlite3_step(stmt);
-  if (rc != SQLITE_DONE) {
-    connection->stepFault(stmt, std::string("cannot ") + action + " of table " + shown(name));
-  }
-  sqlite3_reset(stmt);
-}
-
-void Recordset::Impl::appendBuffer() {
-  connection->beforeWrite();
-  sqlite3_stmt* stmt = table->statement(Statement::Insert, *connection);
-  bindBuffer(stmt);
-  stepWrite(stmt, "add a row");
-  if (!rowsKnown) {
-    ++appendedBeforeLoad;
-    noteRowsChanged();
-    return;
-  }
-  std::int64_t rowid = sqlite3_last_insert_rowid(connection->db.get());
-  bool afterLast = !onDeletedRow && position >= count();
-  auto at = std::upper_bound(rowids.begin(), rowids.end(), rowid);
-  if (!afterLast && at - rowids.begin() <= position) ++position;
-  rowids.insert(at, rowid);
-  if (afterLast) position = count();
-  noteRowsChanged();
-}
-
-void Recordset::Impl::writeBackBuffer() {
-  connection->beforeWrite();
-  sqlite3_stmt* stmt = table->statement(Statement::Update, *connection);
-  bindBuffer(stmt);
-  sqlite3_bind_int64(stmt, static_cast<int>(buffer.size() + 1), editedRowid);
-  stepWrite(stmt, "update the edited row");
-  if (sqlite3_changes(connection->db.get()) == 0) {
-    fail(FaultKind::Database, "Record is deleted: the edited row of table " + shown(name) +
-                                  " was deleted before the update");
-  }
-}
-
-void Recordset::Impl::deleteCurrentRow() {
-  requireCurrentRow();
-  connection->beforeWrite();
-  std::int64_t rowid = rowids[position];
-  sqlite3_stmt* stmt = table->statement(Statement::Delete, *connection);
-  sqlite3_bind_int64(stmt, 1, rowid);
-  stepWrite(stmt, "delete the current row");
-  rowids.erase(rowids.begin() + position);
-  editing = Editing::None;
-  buffer.clear();
-  onDeletedRow = true;
-  deletedRowid = rowid;
-  noteRowsChanged();
 }
 
 Recordset::Recordset(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
@@ -515,68 +336,6 @@ std::string Recordset::text(int column) const {
   }
   return r.textOf(r.read(column));
 }
-
-void Recordset::addNew() {
-  Impl& r = liveState(impl_);
-  r.buffer.assign(r.table->fields.size(), Value());
-  r.editing = Editing::NewRow;
-}
-
-void Recordset::edit() {
-  Impl& r = liveRows(impl_);
-  r.table->selectAllFields();
-  sqlite3_stmt* stmt = r.currentRow();
-  std::vector<Value> values;
-  values.reserve(r.table->fields.size());
-  for (int i = 0; i < static_cast<int>(r.table->fields.size()); ++i) {
-    values.push_back(columnValue(stmt, r.table->firstField() + i, r.typeOf(i)));
-  }
-  r.buffer = std::move(values);
-  r.editedRowid = r.rowids[r.position];
-  r.editing = Editing::CurrentRow;
-}
-
-void Recordset::set(const std::string& field, double number) {
-  Impl& r = liveState(impl_);
-  int column = r.column(field);
-  r.requireEditing("set", column);
-  r.buffer[column] = r.fromNumber(column, number);
-}
-
-void Recordset::set(const std::string& field, const std::string& text) {
-  Impl& r = liveState(impl_);
-  int column = r.column(field);
-  r.requireEditing("set", column);
-  r.buffer[column] = r.fromText(column, text);
-}
-
-void Recordset::setNull(const std::string& field) {
-  Impl& r = liveState(impl_);
-  int column = r.column(field);
-  r.requireEditing("set", column);
-  r.buffer[column] = Value();
-}
-
-void Recordset::update() {
-  Impl& r = liveState(impl_);
-  r.requireEditing("update", -1);
-  if (r.editing == Editing::NewRow) {
-    r.appendBuffer();
-  } else {
-    r.writeBackBuffer();
-  }
-  r.editing = Editing::None;
-  r.buffer.clear();
-}
-
-void Recordset::cancelUpdate() {
-  Impl& r = liveState(impl_);
-  r.requireEditing("cancelUpdate", -1);
-  r.editing = Editing::None;
-  r.buffer.clear();
-}
-
-void Recordset::remove() { liveRows(impl_).deleteCurrentRow(); }
 
 void Recordset::close() {
   if (!impl_ || impl_->closed) return;

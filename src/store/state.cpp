@@ -10,8 +10,8 @@ void Flags::clearViews() {
   sonkesmod = kept[2];
 }
 
-State::State(Canvas& canvasRef, Dialogs& dialogsRef)
-    : canvas(canvasRef), dialogs(dialogsRef), openSheet(openXlsSheet) {}
+State::State(Canvas& canvasRef, Dialogs& dialogsRef, Canvas& formRef)
+    : canvas(canvasRef), dialogs(dialogsRef), form(formRef), openSheet(openXlsSheet) {}
 
 const std::string& State::projectPath() const { return projects.projeyol[project()]; }
 

@@ -74,11 +74,13 @@ struct Frame {
   double olceky = 0;
   double olcek = 0;  // typed scale / 100
   bool olcekgirildi = false;
-  double buyutadim = 0.05;
+  double buyutadim = 0;  // the zoom step: 0.05 from the first zoom command on
   double kaydirx = 0;
   double kaydiry = 0;
   int kaydirsay = 0;
   bool kaydirmod = false;
+  double dragStartX = 0;  // where the right button went down in drag mode
+  double dragStartY = 0;
   int gridadim = 1;
   bool gridseyrek = false;
   // The base plan.
@@ -219,12 +221,14 @@ struct Layout {
 };
 
 struct State {
-  State(Canvas& canvas, Dialogs& dialogs);
+  // `form` is the window's own surface, under its controls, where Picture1 is not shown.
+  State(Canvas& canvas, Dialogs& dialogs, Canvas& form);
   State(const State&) = delete;
   State& operator=(const State&) = delete;
 
   Canvas& canvas;
   Dialogs& dialogs;
+  Canvas& form;
   Controls ui;
   SheetOpener openSheet;
   // The replay's rows in their order, given by the program when it starts; the views

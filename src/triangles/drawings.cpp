@@ -99,6 +99,8 @@ void Mncizek_Click(State& s) {
   s.flags.modcizim = true;
   disableEntryMenuItems(s);
   for (const char* item : {"Mnkaydir", "MNolcek", "Mntoprez"}) s.ui.check(item, false);
+  s.views.overlays.disarm();
+  s.views.overlays.clearPositions();
   ucgenplan(s);
 }
 
@@ -108,6 +110,8 @@ void Mncizduz_Click(State& s) {
   s.flags.modcizim = true;
   disableEntryMenuItems(s);
   s.ui.check("Mnelmtnr", false);
+  s.views.overlays.disarm();
+  s.views.overlays.clearPositions();
   s.ui.line1.visible = false;
   for (const char* name : {"Combo3", "Command1", "Frame1", "Frame2", "Picture2", "Command2"}) {
     s.ui.hide(name);

@@ -85,4 +85,8 @@ void appendSummaryRow(Recordset& table, const Frame& f, const SummaryRow& v) {
   table.update();
 }
 
+void renumberSummaryRow(Recordset& table, int number) {
+  table.updateField(field::ucgensay, number);
+}
+
 }  // namespace tri

@@ -69,4 +69,7 @@ struct SummaryRow {
 // number through ondayaz.
 void appendSummaryRow(Recordset& table, const Frame& frame, const SummaryRow& summary);
 
+// Gives the current summary row the triangle number `number`, the other fields untouched.
+void renumberSummaryRow(Recordset& table, int number);
+
 }  // namespace tri

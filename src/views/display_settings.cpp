@@ -52,7 +52,7 @@ void Mnrenksec_Click(State& s) {
   if (s.flags.modureciz) ureciz(s);
   if (s.flags.sonkesmod) {
     removeMarkers(s);
-    // then: Mnsonkes_Click when sonkesmod is on
+    Mnsonkes_Click(s);
   }
   replayTail(s);
 }

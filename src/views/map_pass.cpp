@@ -67,7 +67,7 @@ void printAt(Canvas& c, double x, double y, const std::string& text) {
 
 std::optional<MapTable> openMapPass(State& s, const MapHead& head) {
   s.canvas.cls();
-  removeMarkers(s);
+  if (head.removeMarkers) removeMarkers(s);
   head.setFlags(s.flags);
   enableOverlayItems(s.ui);
   showCanvasOnly(s.ui, head.hideScrollBar);

@@ -21,6 +21,8 @@ struct MapHead {
   // The menu commands word the area limit as the project commands do; the redraw of the
   // scroll bar writes it with a leading blank.
   LimitWording wording = LimitWording::Plain;
+  // The redraw of the scroll bar leaves the marker shapes alone.
+  bool removeMarkers = true;
 };
 
 // The project file and the selected triangle table, both open.
@@ -29,11 +31,11 @@ struct MapTable {
   Recordset table;
 };
 
-// The head of a pass: clears the canvas and the markers, sets the flags, enables the menu
-// items of the overlays, shows the canvas alone, loads the holes from kor (up to the first
-// point row), fits the frame with the head's area-limit wording, draws the grid, and opens
-// the table the selectors name. Without one, the database is closed and nothing is
-// returned: the view ends there, without triangles or holes.
+// The head of a pass: clears the canvas and the markers (unless the head keeps them), sets
+// the flags, enables the menu items of the overlays, shows the canvas alone, loads the holes
+// from kor (up to the first point row), fits the frame with the head's area-limit wording,
+// draws the grid, and opens the table the selectors name. Without one, the database is closed and
+// nothing is returned: the view ends there, without triangles or holes.
 std::optional<MapTable> openMapPass(State& s, const MapHead& head);
 
 // The colour classes of the table's reserves: rezervsay from the last row's ucgensay (a

@@ -66,6 +66,7 @@ void reflectControls(const Controls& ui, ControlWidgets& widgets) {
     widgets.picture1->setToolTip(text(ui.picture1ToolTip));
     widgets.picture1->setLine(ui.line1);
   }
+  if (widgets.form) widgets.form->reflectShapes(ui);
 }
 
 }  // namespace tri

@@ -12,6 +12,7 @@
 
 #include "platform/controls.h"
 #include "window/canvas_view.h"
+#include "window/form_view.h"
 #include "window/menu_bar.h"
 
 namespace tri {
@@ -22,6 +23,7 @@ struct ControlWidgets {
   std::map<std::string, QWidget*> panels;  // shown or hidden by the logic, by control name
   MenuActions menu;
   CanvasView* picture1 = nullptr;
+  FormView* form = nullptr;
   QScrollBar* hscroll1 = nullptr;
 };
 
@@ -38,7 +40,7 @@ W* addPanel(ControlWidgets& widgets, const char* name, W* widget) {
 
 // The entries and selection of the selectors (without signals), the label texts, the
 // menu items' enabled and checked states, visibility, the rubber-band line, the scroll
-// bar, the canvas tool tip; and a repaint of the canvas.
+// bar, the canvas tool tip, the shape controls on the form; and a repaint of the canvas.
 void reflectControls(const Controls& ui, ControlWidgets& widgets);
 
 }  // namespace tri

@@ -4,12 +4,16 @@
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QShortcut>
+#include <QToolButton>
 #include <QVBoxLayout>
+#include <tuple>
 
 #include "commands/menu.h"
 #include "commands/procedures.h"
 #include "platform/fault.h"
 #include "project/commands.h"
+#include "views/commands.h"
 #include "window/print_panels.h"
 #include "window/qt_dialogs.h"
 
@@ -44,7 +48,7 @@ QString faultText(const Fault& fault) {
 MainWindow::MainWindow(Dialogs* dialogs, QWidget* parent)
     : QMainWindow(parent),
       ownDialogs_(dialogs ? nullptr : std::make_unique<QtDialogs>(this)),
-      state_(canvas_, dialogs ? *dialogs : *ownDialogs_),
+      state_(canvas_, dialogs ? *dialogs : *ownDialogs_, form_),
       reportFault_([this](const QString& title, const QString& text) {
         QMessageBox::critical(this, title, text);
       }) {
@@ -76,6 +80,9 @@ void MainWindow::buildWidgets() {
   layout->addWidget(buildStatusRow(central));
   setCentralWidget(central);
   connectCanvas();
+  connectForm();
+  state_.ui.combo3Height = widgets_.panels.at("Combo3")->sizeHint().height();
+  state_.ui.label1Height = widgets_.labels.at(1)->sizeHint().height();
 }
 
 QWidget* MainWindow::buildSelectorRow(QWidget* parent) {
@@ -101,7 +108,10 @@ QWidget* MainWindow::buildSelectorRow(QWidget* parent) {
 }
 
 QWidget* MainWindow::buildCanvasArea(QWidget* parent) {
-  auto* area = new QWidget(parent);
+  // The form's own surface lies under the panels and the canvas, and shows where they are
+  // hidden.
+  auto* area = new FormView(form_, parent);
+  widgets_.form = area;
   auto* layout = new QHBoxLayout(area);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);  // the print panels take no room while they are hidden
@@ -117,21 +127,37 @@ QWidget* MainWindow::buildCanvasArea(QWidget* parent) {
 QWidget* MainWindow::buildScrollBar(QWidget* parent) {
   auto* bar = addPanel(widgets_, "HScroll1", new QScrollBar(Qt::Horizontal, parent));
   bar->setRange(0, kScrollMaximum);
-  // A drag reports its value when the thumb is let go.
-  bar->setTracking(false);
+  // A drag reports its values as the thumb moves.
+  bar->setTracking(true);
   // The canvas keeps the bar's room when it is hidden, so showing it resizes nothing.
   QSizePolicy policy = bar->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   bar->setSizePolicy(policy);
   widgets_.hscroll1 = bar;
-  const Procedure change = findProcedure("HScroll1_Change");
-  connect(bar, &QScrollBar::valueChanged, this, [this, change](int value) {
-    runCommand([this, value, change] {
-      state_.ui.hscroll1Value = value;
-      if (change) change(state_);
-    });
-  });
+  scrollChange_ = findProcedure("HScroll1_Change");
+  connect(bar, &QScrollBar::valueChanged, this, &MainWindow::scrollBarMoved);
   return bar;
+}
+
+// A redraw is not interrupted, and a drag sends values faster than a redraw ends: the values
+// that arrive meanwhile replace each other, and the latest is drawn next. The logic sees the
+// bar's value at once, unless a command is under way.
+void MainWindow::scrollBarMoved(int value) {
+  const bool queued = pendingScroll_.has_value();
+  pendingScroll_ = value;
+  if (running_ == 0) state_.ui.hscroll1Value = value;
+  if (!queued) QMetaObject::invokeMethod(this, &MainWindow::runPendingScroll, Qt::QueuedConnection);
+}
+
+void MainWindow::runPendingScroll() {
+  // A command that shows its progress lets queued calls through: the change waits for its end.
+  if (!pendingScroll_ || running_ > 0) return;
+  const int value = *pendingScroll_;
+  pendingScroll_.reset();
+  runCommand([this, value] {
+    state_.ui.hscroll1Value = value;
+    if (scrollChange_) scrollChange_(state_);
+  });
 }
 
 QWidget* MainWindow::buildStatusRow(QWidget* parent) {
@@ -161,6 +187,33 @@ void MainWindow::connectCanvas() {
   });
   connect(view, &CanvasView::resized, this,
           [this](int width, int height) { resizeCanvas(QSize(width, height)); });
+}
+
+// The form's clicks, and the page buttons and keys of the drill-log view drawn on it.
+void MainWindow::connectForm() {
+  FormView* form = widgets_.form;
+  connect(form, &FormView::pressed, this, [this](int button, float x, float y) {
+    runCommand([=, this] { Form_MouseDown(state_, button, 0, x, y); });
+  });
+  // Side by side at the top of the form, right of the legend.
+  int left = 100;
+  for (const auto& [name, caption, tip] :
+       {std::tuple{"PagePrevious", "< Holes", "The holes before these (PageUp)"},
+        std::tuple{"PageNext", "Holes >", "The holes after these (PageDown)"}}) {
+    auto* button = addPanel(widgets_, name, new QToolButton(form));
+    button->setText(caption);
+    button->setToolTip(tip);
+    button->setGeometry(QRect(QPoint(left, 4), button->sizeHint()));
+    left += button->width() + 4;
+    button->hide();
+    const Procedure procedure = findProcedure(std::string(name) + "_Click");
+    connect(button, &QToolButton::clicked, this, [this, procedure] { runProcedure(procedure); });
+  }
+  for (const auto& [key, code] : {std::pair{Qt::Key_PageUp, 33}, std::pair{Qt::Key_PageDown, 34}}) {
+    auto* shortcut = new QShortcut(QKeySequence(key), this);
+    connect(shortcut, &QShortcut::activated, this,
+            [this, code] { runCommand([=, this] { Form_KeyDown(state_, code); }); });
+  }
 }
 
 void MainWindow::connectHooks() {
@@ -204,7 +257,12 @@ void MainWindow::afterCommand() {
   }
   reflectControls(state_.ui, widgets_);
   widgets_.picture1->update();
-  if (state_.ui.closeRequested) close();
+  widgets_.form->update();
+  if (state_.ui.closeRequested) {
+    close();
+    return;
+  }
+  if (pendingScroll_) runPendingScroll();
 }
 
 void MainWindow::resizeCanvas(QSize size) {

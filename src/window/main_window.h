@@ -32,6 +32,8 @@ class MainWindow : public QMainWindow {
 
   State& state() { return state_; }
   const ImageCanvas& canvas() const { return canvas_; }
+  // The window's own surface, where the drill-log view is drawn.
+  const ImageCanvas& form() const { return form_; }
   void setFaultReporter(FaultReporter reporter) { reportFault_ = std::move(reporter); }
   // True once a run-time error has ended the program: the window runs nothing more.
   bool ended() const { return ended_; }
@@ -43,6 +45,7 @@ class MainWindow : public QMainWindow {
   QWidget* buildStatusRow(QWidget* parent);
   void buildWidgets();
   void connectCanvas();
+  void connectForm();
   void connectHooks();
 
   // Runs a procedure as a command; nullptr (a command not in this program yet) runs an
@@ -52,10 +55,14 @@ class MainWindow : public QMainWindow {
   void runCommand(const std::function<void()>& command);
   void afterCommand();
   void resizeCanvas(QSize size);
+  // The scroll bar's changes: each value replaces the one still waiting to be drawn.
+  void scrollBarMoved(int value);
+  void runPendingScroll();
   void showProgress();
   void endWithFault(const QString& text);
 
   ImageCanvas canvas_;
+  ImageCanvas form_;
   std::unique_ptr<QtDialogs> ownDialogs_;
   State state_;
   ControlWidgets widgets_;
@@ -63,6 +70,9 @@ class MainWindow : public QMainWindow {
   int running_ = 0;
   // A canvas resize that came while logic ran, applied when it has finished.
   std::optional<QSize> pendingResize_;
+  // The bar's latest value, not drawn yet, and the procedure that draws it.
+  std::optional<int> pendingScroll_;
+  Procedure scrollChange_ = nullptr;
   bool ended_ = false;
 };
 

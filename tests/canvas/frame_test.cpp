@@ -113,6 +113,9 @@ TEST(Frame, ATypedScaleOfOneHundredIsOneMetrePerCentimetre) {
   f.olcek = 100 / 100.0;
   frameFit(s.state, LimitWording::Plain);
   EXPECT_NEAR(f.olcekx, 1, 0.05);
+  // An empty or cancelled answer to Enter Scale stops in the conversion.
+  s.dialogs.answerInput("", "Enter Scale:");
+  EXPECT_THROW(s.run("Mnolcekg_Click"), Fault);
   // A frame without height fails in the arithmetic.
   f = Frame{};
   f.ebxk = 100;

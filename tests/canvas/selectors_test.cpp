@@ -17,7 +17,7 @@ TEST(Selectors, TheTableRuleInEveryState) {
   // Selectors that run no procedure, to set up each state directly.
   ImageCanvas canvas;
   ScriptedDialogs dialogs;
-  State state{canvas, dialogs};
+  State state{canvas, dialogs, canvas};
   auto set = [](Combo& combo, std::vector<std::string> items, int index) {
     combo.clear();
     for (const std::string& item : items) combo.addItem(item);

@@ -86,6 +86,10 @@ TEST(CanvasPixels, EachOperationLeavesItsPixels) {
   EXPECT_EQ(pixel(fill, 60, 60), kWhite);  // beyond the long side
   EXPECT_EQ(pixel(fill, 90, 90), kBlue);
   EXPECT_EQ(countPixels(fill, fill.foreColor), 0);
+  // Corners far off the picture are cut to it.
+  ImageCanvas cut(100, 100);
+  cut.fillTriangle(-2000000000, -2000000000, 2000000000, -2000000000, 0, 2000000000, kGreen);
+  EXPECT_EQ(countPixels(cut, kGreen), 100 * 100);
 
   // A circle is round on screen with the radius on the x scale; filled or not.
   ImageCanvas round(1000, 700);

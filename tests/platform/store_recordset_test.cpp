@@ -186,6 +186,19 @@ TEST_F(StoreEditing, EditWritesTheRowBackAndCancelOrAMoveDropsTheBuffer) {
   EXPECT_EQ(db_.openTable("t").recordCount(), 3);
 }
 
+TEST_F(StoreEditing, UpdateFieldWritesOneFieldAndDropsAnUnfinishedEdit) {
+  Recordset rs = rowsUpTo(3);
+  Recordset other = db_.openTable("t");
+  rs.moveNext();
+  other.moveNext();
+  other.get("n");  // a positioned read that the write must not leave stale
+  rs.edit();
+  rs.set("s", "dropped");
+  rs.updateField("n", 20);
+  EXPECT_EQ(other.number("n"), 20);
+  EXPECT_EQ(other.text("s"), "row 2");
+}
+
 TEST_F(StoreEditing, ADeletedRowStaysCurrentUntilTheNextMoveAndAppendsComeAfterTheRest) {
   Recordset rs = rowsUpTo(6);
   rs.move(2);

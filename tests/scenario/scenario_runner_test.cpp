@@ -44,6 +44,7 @@ TEST(ScenarioRunner, BadStatementsUnmetExpectationsAndOtherOutput) {
                           "select Combo9 1\n", "answer button Maybe\n", "elevations 395\n"}) {
     EXPECT_EQ(run(bad).code, kScenarioBadStatement) << bad;
   }
+  EXPECT_EQ(run("scroll 361\n").code, kScenarioBadStatement);
   EXPECT_EQ(run("expect-label 1 Ready\n").code, kScenarioExpectation);
   // An answer that no dialog asked for means the scenario and the program disagree.
   EXPECT_EQ(run("answer input 5000\n").code, kScenarioExpectation);

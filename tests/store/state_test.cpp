@@ -35,7 +35,7 @@ TEST(Capacity, IndexPastABoundIsASubscriptFaultAndAnUnsetEntryIsEmpty) {
 TEST(StartUp, TheFirstResizeClearsTheFirstMode) {
   ImageCanvas canvas;
   ScriptedDialogs dialogs;
-  State s(canvas, dialogs);
+  State s(canvas, dialogs, canvas);
   connectControls(s);
   s.frame.gridadim = 7;
   Form_Load(s);

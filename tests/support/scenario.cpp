@@ -8,10 +8,12 @@
 #include <stdexcept>
 #include <vector>
 
+#include "commands/procedures.h"
 #include "platform/fault.h"
 #include "platform/vbtext.h"
 #include "support/session.h"
 #include "support/stored_table.h"
+#include "views/commands.h"
 
 namespace tri {
 
@@ -76,6 +78,12 @@ class ScenarioRun {
       need(args, 2, "move takes X Y");
       return session_.move(numberArg(args[0]), numberArg(args[1]));
     }
+    if (verb == "drag") {
+      need(args, 5, "drag takes X1 Y1 X2 Y2 BUTTON");
+      const int button = static_cast<int>(numberArg(args[4]));
+      Picture1_MouseDown(session_.state, button, numberArg(args[0]), numberArg(args[1]));
+      return Picture1_MouseUp(session_.state, button, numberArg(args[2]), numberArg(args[3]));
+    }
     if (verb == "resize") return resize(args);
     if (verb == "save-image") return saveImage(trim(rest));
     if (verb == "print-labels") {
@@ -87,11 +95,19 @@ class ScenarioRun {
       for (const std::string& op : session_.canvas.describeSinceClear()) out_ << op << "\n";
       return;
     }
+    if (verb == "print-frame") return printFrame();
+    if (verb == "click-form") {
+      need(args, 2, "click-form takes X Y");
+      return Form_MouseDown(session_.state, 1, 0, static_cast<float>(numberArg(args[0])),
+                            static_cast<float>(numberArg(args[1])));
+    }
+    if (verb == "print-form") return printForm();
     if (verb == "print-rows") return printRows(args);
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
     if (verb == "elevations") return elevations(words(rest));
     if (verb == "production-elevations") return productionElevations(words(rest));
+    if (verb == "scroll") return scroll(args);
     throw BadStatement("unknown statement \"" + verb + "\"");
   }
 
@@ -113,8 +129,27 @@ class ScenarioRun {
     for (size_t at; (at = p.find(tmp)) != std::string::npos;) {
       p.replace(at, tmp.size(), session_.dir.path());
     }
+    if (const size_t at = p.find("${PICTURES}"); at != std::string::npos) {
+      std::filesystem::create_directories(TRIRESERVE_SCENARIO_PICTURES);
+      p.replace(at, 11, TRIRESERVE_SCENARIO_PICTURES);
+    }
     if (p.empty() || std::filesystem::path(p).is_absolute()) return p;
     return (std::filesystem::path(folder_) / p).lexically_normal().string();
+  }
+
+  // The form's drawing since it was last cleared, then its shape controls: the two legend
+  // bars and the marker bars in the order they were made.
+  void printForm() {
+    for (const std::string& op : session_.form.describeSinceClear()) out_ << op << "\n";
+    State& s = session_.state;
+    std::vector<std::string> names{s.network.oreLegend, s.network.gangueLegend};
+    for (int i = 1; i <= s.markers.shapesay; ++i) names.push_back(s.markers.names[i]);
+    for (const std::string& name : names) {
+      const ShapeControl& b = s.ui.shape(name);
+      out_ << "shape " << name << " " << numberText(b.left) << " " << numberText(b.top) << " "
+           << numberText(b.width) << " " << numberText(b.height) << " fill=" << b.fillColor
+           << " line=" << b.borderColor << "\n";
+    }
   }
 
   void answer(const std::string& rest) {
@@ -143,6 +178,14 @@ class ScenarioRun {
       if (c->name() == name) return *c;
     }
     throw BadStatement("no selector \"" + name + "\"");
+  }
+
+  void printFrame() {
+    const Frame& f = session_.state.frame;
+    out_ << "frame x " << numberText(f.ekxk) << " .. " << numberText(f.ebxk) << "  y "
+         << numberText(f.ekyk) << " .. " << numberText(f.ebyk) << "  scale " << numberText(f.olcekx)
+         << " " << numberText(f.olceky) << "  pan " << numberText(f.kaydirx) << " "
+         << numberText(f.kaydiry) << "  grid " << f.gridadim << "\n";
   }
 
   void resize(const std::vector<std::string>& args) {
@@ -216,6 +259,16 @@ class ScenarioRun {
     Production& pr = session_.state.production;
     pr.urupkot = toNumber(args[0]);
     pr.urdownkot = toNumber(args[1]);
+  }
+
+  // The scroll bar under the canvas set to a value, which runs its change event.
+  void scroll(const std::vector<std::string>& args) {
+    need(args, 1, "scroll takes VALUE");
+    const double value = numberArg(args[0]);
+    if (value < 0 || value > 360 || value != static_cast<int>(value))
+      throw BadStatement("scroll to a whole value of 0 to 360");
+    session_.state.ui.hscroll1Value = static_cast<int>(value);
+    session_.run("HScroll1_Change");
   }
 
   std::string folder_;

@@ -9,8 +9,11 @@
 namespace tri {
 
 Session::Session(int canvasWidth, int canvasHeight)
-    : canvas(canvasWidth, canvasHeight), state(canvas, dialogs) {
+    : canvas(canvasWidth, canvasHeight),
+      form(canvasWidth, canvasHeight),
+      state(canvas, dialogs, form) {
   canvas.setLogging(true);
+  form.setLogging(true);
   connectControls(state);
   Form_Load(state);
   Form_Resize(state, canvasWidth, canvasHeight);
@@ -32,6 +35,7 @@ void Session::move(double x, double y) {
 }
 
 void Session::resize(int canvasWidth, int canvasHeight) {
+  form.resize(canvasWidth, canvasHeight);
   Form_Resize(state, canvasWidth, canvasHeight);
 }
 

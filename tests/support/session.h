@@ -19,6 +19,8 @@ class Session {
 
   TempDir dir;
   ImageCanvas canvas;
+  // The window's own surface, as large as the canvas.
+  ImageCanvas form;
   ScriptedDialogs dialogs;
   State state;
 

@@ -1,8 +1,11 @@
-// The value maps in the real window: a network over the sample project entered with the
-// mouse, each map drawn from the menu and written as a picture for a person to look at.
+// The value maps and the 3D view in the real window: a network over the sample project
+// entered with the mouse, each view drawn from the menu and written as a picture for a person
+// to look at.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QDir>
+#include <QScrollBar>
 #include <algorithm>
 #include <array>
 #include <set>
@@ -105,6 +108,44 @@ TEST(WindowMaps, EachMapOfTheSampleProjectIsDrawnAndSaved) {
   const std::set<QRgb> classes = {QColor(0, 170, 0).rgb(), QColor(240, 200, 0).rgb(),
                                   QColor(220, 0, 0).rgb()};
   EXPECT_EQ(colors, classes);
+  EXPECT_TRUE(h.faults.empty()) << h.faultTexts();
+}
+
+// The 3D view from the menu, turned with the bar below the canvas and saved at three angles.
+// A drag sends the bar's values faster than a view is drawn: only the latest is drawn, and
+// the move and scale items stay away while the view is on.
+TEST(WindowMaps, TheReserveViewTurnsWithTheBarAndADragDrawsTheLatestAngle) {
+  SampleMaps h;
+  auto* bar = h.window.findChild<QScrollBar*>("HScroll1");
+  ASSERT_NE(bar, nullptr);
+  auto save = [&h](const char* picture) {
+    QDir().mkpath(TRIRESERVE_PICTURES);
+    EXPECT_TRUE(h.window.canvas().image().save(QString(TRIRESERVE_PICTURES) + "/" + picture));
+  };
+  h.trigger("Mnrecboy");
+  EXPECT_FALSE(bar->isHidden());
+  save("reserve-3d-0.png");
+  Canvas& canvas = h.state().canvas;
+  canvas.setLogging(true);
+  canvas.clearLog();
+  for (int value = 1; value <= 90; ++value) bar->setValue(value);
+  QApplication::processEvents();
+  const auto& log = canvas.log();
+  EXPECT_EQ(std::count_if(log.begin(), log.end(),
+                          [](const CanvasOp& op) { return op.kind == CanvasOp::Kind::Clear; }),
+            1);
+  EXPECT_EQ(h.state().views.viewangle, 90);
+  EXPECT_FALSE(h.action("Mnkaydir")->isEnabled() || h.action("Mnolcekg")->isEnabled());
+  save("reserve-3d-90.png");
+  canvas.setLogging(false);
+  bar->setValue(200);
+  QApplication::processEvents();
+  EXPECT_EQ(h.state().views.viewangle, 200);
+  save("reserve-3d-200.png");
+  // The next view gives the move and scale items back and hides the bar.
+  h.trigger("Mnyuzdeten");
+  EXPECT_TRUE(h.action("Mnkaydir")->isEnabled() && h.action("Mnolcekg")->isEnabled());
+  EXPECT_TRUE(bar->isHidden());
   EXPECT_TRUE(h.faults.empty()) << h.faultTexts();
 }
 

@@ -1,0 +1,250 @@
+// The value maps and their display settings over a project of the cluster
+// workbook (holes C-01 .. C-14, 50 m apart) whose drawing is written straight
+// into its file, so that the maps can be fed any stored values. The maps of the
+// sample project, with the order of their drawing, are the scenarios tenor_map,
+// reserve_map and general_reserve_map.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <optional>
+#include <vector>
+
+#include "platform/fault.h"
+#include "platform/store.h"
+#include "store/project_format.h"
+#include "support/session.h"
+
+namespace tri {
+namespace {
+
+using Kind = CanvasOp::Kind;
+
+// A triangle between three holes (numbers from 1), its tenor and reserve in
+// thousandths.
+struct Stored {
+  std::array<int, 3> holes;
+  double tenor = 0;
+  double reserve = 0;
+};
+
+// The drawing "plan1" of ore, selected.
+struct MapSession : Session {
+  explicit MapSession(const std::vector<Stored>& triangles) {
+    path = createProject(fixture("cluster.xls"));
+    {
+      Database db = Database::open(path);
+      db.createTable("plan1", drawingFields());
+      Recordset t = db.openTable("plan1");
+      auto add = [&t](std::initializer_list<std::pair<const char*, double>> values) {
+        t.addNew();
+        for (const auto& [name, value] : values) t.set(name, value);
+        t.update();
+      };
+      add({{"ucgensay", 0}});
+      for (size_t i = 0; i < triangles.size(); ++i) {
+        for (int h : triangles[i].holes) {
+          add({{"koordinat1", state.holes.eks[h] * 1000},
+               {"koordinat2", state.holes.eye[h] * 1000}});
+        }
+        add({{"ucgensay", static_cast<double>(i + 1)},
+             {"geneltenor", triangles[i].tenor},
+             {"genelrezerv", triangles[i].reserve}});
+      }
+      Recordset ore = db.openTable("ore");
+      ore.addNew();
+      ore.set("cizim", "plan1");
+      ore.set("tsay", 1);
+      ore.update();
+    }
+    openProject(path);
+    state.ui.combo4.setListIndex(1);
+    state.ui.combo2.setListIndex(1);
+  }
+  // The operations of a kind since the canvas was last cleared.
+  std::vector<CanvasOp> drawn(Kind kind) const {
+    std::vector<CanvasOp> ops;
+    for (const CanvasOp& op : canvas.log()) {
+      if (op.kind == Kind::Clear) ops.clear();
+      if (op.kind == kind) ops.push_back(op);
+    }
+    return ops;
+  }
+  std::string path;
+};
+
+const Stored kLowerLeft{{1, 2, 4}, 1125, 1005};  // C-01 C-02 C-04, legs of 50 m
+
+TEST(ShowHide, EachUseRedrawsAndAnOddNumberOfUsesLeavesTheItemOn) {
+  struct Toggle {
+    const char* item;
+    bool (*on)(const State&);
+    Kind shows;
+  };
+  for (const Toggle& t :
+       {Toggle{"Mnsndjgoster", [](const State& s) { return s.frame.sondgoster; }, Kind::Text},
+        Toggle{"Mnmiktrgoster", [](const State& s) { return s.views.miktargoster; }, Kind::Text},
+        Toggle{"Mngridgoster", [](const State& s) { return s.frame.gridgoster; }, Kind::Line}}) {
+    SCOPED_TRACE(t.item);
+    MapSession s({kLowerLeft});
+    s.run("Mnyuzdeten_Click");
+    const size_t before = s.drawn(t.shows).size();
+    const std::string procedure = std::string(t.item) + "_Click";
+    s.run(procedure);
+    EXPECT_GT(s.drawn(t.shows).size(), before);
+    s.run(procedure);
+    s.run(procedure);
+    EXPECT_TRUE(t.on(s.state) && s.state.ui.checked(t.item));
+    s.run(procedure);
+    EXPECT_FALSE(t.on(s.state) || s.state.ui.checked(t.item));
+  }
+}
+
+TEST(Colors, EachDialogKeepsItsOwnColourWhenCancelled) {
+  MapSession s({kLowerLeft});
+  s.run("Mnmiktrgoster_Click");
+  s.run("Mnyuzdeten_Click");
+  s.dialogs.answerColor(255).cancelColor().answerColor(65280);
+  s.run("Mnrmiktr_Click");
+  s.run("Mnrmiktr_Click");
+  // 2 decimals, the tie to the even digit, top left at the centroid.
+  EXPECT_EQ(s.drawn(Kind::Text).at(0).describe(),
+            "text 566.666666666667 816.666666666667 \"1.12\" color=255");
+  s.run("Mnrgrid_Click");
+  s.run("Mngridgoster_Click");
+  EXPECT_EQ(s.drawn(Kind::Line).at(0).color, 65280);
+  // Classes, ore and gangue share one dialog.
+  s.dialogs.answerInput("2").answerColor(100).cancelColor();
+  s.run("MNrrezerv_Click");
+  s.dialogs.answerButton(Answer::OK, "Select Color for Ore !").cancelColor();
+  s.dialogs.answerButton(Answer::OK, "Select Color for Gangue !").answerColor(300);
+  s.run("Mnrenksec_Click");
+  EXPECT_EQ(std::vector<Color>(
+                {s.state.views.renkler[2], s.state.views.cevrenk, s.state.views.ganguerenk}),
+            std::vector<Color>({100, 100, 300}));
+  EXPECT_EQ(s.state.ui.label(1), "Select Color for Gangue !");
+}
+
+TEST(MapPass, EachMapReplacesTheOtherViewsAndShowsTheCanvasAlone) {
+  struct Case {
+    const char* procedure;
+    bool Flags::*own;
+    bool keepsTools;  // the reserve map turns off the other three views only
+  };
+  for (const Case& c : {Case{"Mnyuzdeten_Click", &Flags::modyuzdeten, false},
+                        Case{"Mnrezton_Click", &Flags::modrezton, true},
+                        Case{"Mngenelrezervler_Click", &Flags::modgenelrezerv, false}}) {
+    SCOPED_TRACE(c.procedure);
+    MapSession s({kLowerLeft});
+    Flags& f = s.state.flags;
+    f.modyuzdeten = f.modrezton = f.modgenelrezerv = f.modrecboy = f.modcizim = true;
+    s.state.ui.enable("Mnaortyog", false);
+    s.state.ui.show("HScroll1");
+    s.run(c.procedure);
+    EXPECT_TRUE(f.*c.own && s.state.ui.enabled("Mnaortyog") && !s.state.ui.visible("HScroll1"));
+    EXPECT_EQ(f.modyuzdeten + f.modrezton + f.modgenelrezerv + f.modrecboy, 1);
+    EXPECT_EQ(f.modcizim, c.keepsTools);
+  }
+}
+
+TEST(MapPass, HolesEndAtAPointNameAndAreNotDrawnWithoutATable) {
+  MapSession s({});
+  {
+    Database db = Database::open(s.path);
+    Recordset kor = db.openTable(kHoleTable);
+    kor.move(4);
+    kor.edit();
+    kor.set("isim", "uz5");
+    kor.update();
+  }
+  s.run("Mnrezton_Click");
+  EXPECT_EQ(s.state.ui.label(12), "Total Reserve (KiloTon): 0");
+  EXPECT_EQ(s.drawn(Kind::Point).size(), 4u);
+  s.state.ui.combo2.setListIndex(0);
+  s.run("Mnrezton_Click");
+  EXPECT_TRUE(s.drawn(Kind::Point).empty());
+}
+
+TEST(MapPass, AFrameOfFiftySquareKilometresIsShrunkAndSaidSo) {
+  MapSession s({kLowerLeft});
+  // 10 by 7 km, the canvas's own shape, so that the fit does not crop it first.
+  s.state.frame.ebxk = 10000;
+  s.state.frame.ebyk = 7000;
+  s.state.frame.ekxk = s.state.frame.ekyk = 0;
+  s.dialogs.answerButton(Answer::OK).answerButton(Answer::OK);
+  s.run("Mnyuzdeten_Click");
+  EXPECT_EQ(s.dialogs.shown().back().title, "Attention !");
+  EXPECT_EQ(s.state.ui.label(1), "The corresponding fix has been made!");
+  EXPECT_EQ(s.drawn(Kind::Line).size(), 3u);
+}
+
+TEST(GeneralMap, ClassesAreEqualWidthsBetweenTheSmallestAndTheGreatestReserve) {
+  struct Case {
+    const char* count;
+    std::vector<int> reserves;
+    std::vector<Color> discs;  // the colour of class j is 100 j
+  };
+  const Case cases[] = {
+      {"2", {1000, 2000, 3000}, {100, 100, 200}},          // on a limit: the lower class
+      {"3", {1500, 1500, 1500}, {100, 100, 100}},          // all equal: class 1
+      {"2.5", {1000, 2000, 3000}, {100, 200}},             // above the top limit: no disc
+      {"4", {4000, 0, 2500, 1000}, {400, 100, 300, 100}},  // limits from the sorted reserves
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.count);
+    std::vector<Stored> triangles;
+    for (double reserve : c.reserves) triangles.push_back({{1, 2, 4}, 0, reserve});
+    MapSession s(triangles);
+    s.run("Mngenelrezervler_Click");
+    s.dialogs.answerInput(c.count);
+    for (int j = 1; j <= std::stod(c.count); ++j) s.dialogs.answerColor(100 * j);
+    s.run("MNrrezerv_Click");  // which draws the map again
+    std::vector<Color> colors;
+    for (const CanvasOp& disc : s.drawn(Kind::Circle)) colors.push_back(disc.color);
+    EXPECT_EQ(colors, c.discs);
+    EXPECT_EQ(s.drawn(Kind::Line).size(), 3 * c.reserves.size());
+  }
+}
+
+TEST(GeneralMap, TheDiscRadiusKeepsTheHalfPerimeterOfTheTriangleBefore) {
+  // C-03 C-05 C-09: sides 100, 111.8 and 50; then C-03 C-04 C-05, three holes
+  // on a line.
+  MapSession s({{{3, 5, 9}, 0, 1000}, {{3, 4, 5}, 0, 1000}});
+  auto radii = [&s] {
+    s.run("Mngenelrezervler_Click");
+    std::vector<double> r;
+    for (const CanvasOp& disc : s.drawn(Kind::Circle)) r.push_back(disc.at[2]);
+    return r;
+  };
+  const std::vector<double> first = radii();
+  ASSERT_EQ(first.size(), 2u);
+  // The inscribed radius, 2 x area / perimeter, over 1.3.
+  EXPECT_NEAR(first[0], 2 * 2500 / (150 + std::sqrt(12500.0)) / 1.3, 1e-12);
+  // No area: the area term is 1, the half perimeter 100.
+  EXPECT_DOUBLE_EQ(first[1], 1.0 / 100 / 1.3);
+  // The next pass starts from that half perimeter of 100: the side of 100
+  // counts as 99.
+  EXPECT_DOUBLE_EQ(radii().at(0), 14.596907080966082);
+}
+
+TEST(GeneralMap, ClassCountsThatCannotWorkStopTheProgram) {
+  MapSession s({kLowerLeft});
+  auto fault = [&s](const char* answer, const char* procedure) -> std::optional<FaultKind> {
+    s.dialogs.answerInput(answer);
+    try {
+      s.run("MNrrezerv_Click");
+      s.run(procedure);
+    } catch (const Fault& fault) {
+      return fault.kind();
+    }
+    return std::nullopt;
+  };
+  EXPECT_EQ(fault("", "Mnyuzdeten_Click"), FaultKind::TypeMismatch);
+  EXPECT_EQ(fault("two", "Mnyuzdeten_Click"), FaultKind::TypeMismatch);
+  // No classes: no colour dialog, and the class width divides by zero at the
+  // next map.
+  EXPECT_EQ(fault("0", "Mngenelrezervler_Click"), FaultKind::DivisionByZero);
+}
+
+}  // namespace
+}  // namespace tri
