@@ -24,7 +24,6 @@ struct MouseRow {
   MouseHandler handler;
 };
 
-bool never(const State&) { return false; }
 bool entryMode(const State& s) { return s.flags.modcizim; }
 bool cikartOn(const State& s) { return s.flags.modcikart; }
 bool ucsecOn(const State& s) { return s.flags.moducsec; }
