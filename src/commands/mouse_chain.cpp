@@ -24,7 +24,6 @@ struct MouseRow {
   MouseHandler handler;
 };
 
-bool never(const State&) { return false; }
 bool entryMode(const State& s) { return s.flags.modcizim; }
 bool cikartOn(const State& s) { return s.flags.modcikart; }
 bool ucsecOn(const State& s) { return s.flags.moducsec; }
@@ -36,16 +35,16 @@ void enterTriangle(State& s, int button, float x, float y) { ucgeciz(s, x, y, bu
 // clang-format off
 const MouseRow kMouseDownChain[] = {
     // test        handler
-    {never,        nullptr},        // production totals (right)
-    {never,        nullptr},        // production averages (right)
-    {never,        nullptr},        // area selection, second pass (left)
-    {never,        nullptr},        // digitized closing (left)
+    {uretoprOn,    uretoprDown},    // production totals (right)
+    {urortOn,      urortDown},      // production averages (right)
+    {selan2On,     selan2Down},     // area selection, second pass (left)
+    {urcevOn,      urcevDown},      // digitized closing (left)
     {trtumOn,      trtumDown},      // scan of all triangles (right)
     {trtekOn,      trtekDown},      // scan of one triangle (right)
     {naucizOn,     naucizDown},     // production area by points
     {suacizOn,     suacizDown},     // production area drawn freely
     {kaydirOn,     kaydirDown},     // start of a drag (right)
-    {never,        nullptr},        // triangle selection for digitizing (left)
+    {sucgen2On,    sucgen2Down},    // triangle selection for digitizing (left)
     {tiklamaOn,    tiklamaDown},    // scan selection (left)
     {cikartOn,     removeHoleAt},   // hole removal
     {ucsecOn,      pickCornerAt},   // triangle removal

@@ -30,13 +30,13 @@ const ProcedureEntry kControlEvents[] = {
 // clang-format off
 const ReplayRow kReplay[] = {
     // flag                   first      procedure
-    {&Flags::modselan,       nullptr,   nullptr},                 // area selection
-    {&Flags::modsucgen,      nullptr,   nullptr},                 // triangle selection
-    {&Flags::modurcev,       nullptr,   nullptr},                 // digitized closing, and its points
-    {&Flags::modselan2,      nullptr,   nullptr},                 // area selection, second pass
-    {&Flags::modurort,       nullptr,   nullptr},                 // production averages
-    {&Flags::moduretopr,     nullptr,   nullptr},                 // production totals
-    {&Flags::modsucgen2,     ucgenplan, nullptr},                 // triangle selection over the network
+    {&Flags::modselan,       nullptr,   Mnselan_Click},           // area selection
+    {&Flags::modsucgen,      nullptr,   Mnsucgen_Click},          // triangle selection
+    {&Flags::modurcev,       nullptr,   urcevAgain},              // digitized closing, and its points
+    {&Flags::modselan2,      nullptr,   Mnselan_Click},           // area selection, second pass
+    {&Flags::modurort,       nullptr,   Mnurort_Click},           // production averages
+    {&Flags::moduretopr,     nullptr,   Mnuretopr_Click},         // production totals
+    {&Flags::modsucgen2,     ucgenplan, Mnsucgen_Click},          // triangle selection over the network
     {&Flags::modureciz2,     ucgenplan, ureciz},                  // production areas over the network
     {&Flags::modureciz,      nullptr,   ureciz},                  // production areas
     {&Flags::modtiklama,     ucgenplan, Mntiklama_Click},         // scan selection

@@ -2,9 +2,12 @@
 // their sums per area.
 #pragma once
 
+#include <optional>
+
 #include "platform/bounded.h"
 #include "platform/canvas.h"
 #include "platform/sheet.h"
+#include "store/scan_state.h"
 
 namespace tri {
 
@@ -12,6 +15,25 @@ namespace tri {
 struct ClickCorner {
   double x = 0;
   double y = 0;
+};
+
+// A vertex of a digitized part.
+struct PartVertex {
+  double x = 0;
+  double y = 0;
+};
+
+// The sums of the parts digitized in one production area. The two means are empty until a
+// part was added.
+struct AreaSums {
+  double urtoprez = 0;   // reserve, kilotons
+  double urtenalan = 0;  // tenor times surface
+  double uralan1 = 0;    // surface, for the tenor
+  std::optional<double> urortten;
+  double uryogalan = 0;  // density times surface
+  double uralan2 = 0;    // surface, for the density
+  std::optional<double> urortyog;
+  double urtopalan = 0;  // surface, square metres
 };
 
 struct Production {
@@ -59,6 +81,49 @@ struct Production {
   // The outlines begun in this run and the point set of each.
   double alansay = 0;
   Bounded<double> alanplane{"alanplane", 999};
+
+  // --- Digitizing the parts of triangles inside an area; table i is 1 aukor, 2 askor ---
+
+  // The bench of the production scan, metres.
+  double urupkot = 0;
+  double urdownkot = 0;
+
+  // The areas counted by each selection of an area (a replay counts them again), the
+  // corners of the k-th area counted, and the centre of the area of group n.
+  Bounded<double> uralansay{"uralansay", 2};
+  Bounded<double> uralankose{"uralankose", 999};
+  Bounded2<double> urmerkezx{"urmerkezx", 2, 999};
+  Bounded2<double> urmerkezy{"urmerkezy", 2, 999};
+
+  // The selected area (secplan, secalan), the area of the last closed trace, the part under
+  // trace (0: none yet) and the vertices taken in the present trace.
+  double secplan = 0;
+  double secalan = 0;
+  double sonalan = 0;
+  double urparca = 0;
+  double urnoktasay = 0;
+  // Vertex n of part c of area (i, j): at most 50 vertices and 50 parts.
+  Sparse<PartVertex, 4> urpoly{"urpoly", {2, 50, 50, 50}};
+  // The vertices of the present trace, for the replay.
+  Bounded<double> urlistx{"urlistx", 999};
+  Bounded<double> urlisty{"urlisty", 999};
+
+  // The click of triangle selection.
+  double pickx2 = 0;
+  double picky2 = 0;
+
+  // Each part's surface (square metres), reserve (kilotons), tenor, density and ore length.
+  Sparse<double, 3> urparcaalan{"urparcaalan", {2, 999, 999}};
+  Sparse<double, 3> urrez{"urrez", {2, 999, 999}};
+  Sparse<double, 3> urten{"urten", {2, 999, 999}};
+  Sparse<double, 3> uryog{"uryog", {2, 999, 999}};
+  Sparse<double, 3> uruz{"uruz", {2, 999, 999}};
+  // The sums of area (i, j).
+  Bounded2<AreaSums> urAreaSums{"urtoprez", 2, 999};
+
+  // The printed results of the parts, slots 1 .. urscansay of each table.
+  int urscansay = 0;
+  Bounded2<ScanLabel> urlabel{"urlabel", 999, 2};
 };
 
 }  // namespace tri

@@ -106,6 +106,7 @@ class ScenarioRun {
     if (verb == "expect-label") return expectLabel(rest);
     if (verb == "expect-combo") return expectCombo(rest);
     if (verb == "elevations") return elevations(words(rest));
+    if (verb == "production-elevations") return productionElevations(words(rest));
     if (verb == "scroll") return scroll(args);
     throw BadStatement("unknown statement \"" + verb + "\"");
   }
@@ -251,6 +252,13 @@ class ScenarioRun {
     Scan& scan = session_.state.scan;
     scan.upkot = toNumber(args[0]);
     scan.downkot = toNumber(args[1]);
+  }
+
+  void productionElevations(const std::vector<std::string>& args) {
+    if (args.size() != 2) throw BadStatement("production-elevations takes UP DOWN");
+    Production& pr = session_.state.production;
+    pr.urupkot = toNumber(args[0]);
+    pr.urdownkot = toNumber(args[1]);
   }
 
   // The scroll bar under the canvas set to a value, which runs its change event.
