@@ -1,5 +1,6 @@
 #include "bench_data.h"
 
+#include "platform/store.h"
 #include "project/commands.h"
 #include "store/project_format.h"
 
@@ -121,6 +122,29 @@ std::string projectWithDrawing(const std::string& file, const std::string& drawi
   createProject(s, holeWorkbook(kHoles, kLayers), made);
   writeDrawing(made, drawing, kTriangles, limits);
   return made;
+}
+
+const std::string& viewsProject() {
+  static const std::string path = [] {
+    std::string made = projectWithDrawing("views.mdb", "Ag", 0);
+    Database db = Database::open(made);
+    Recordset table = db.openTable("Ag");
+    WriteBatch batch = db.beginBatch();
+    for (int t = 1; t <= kTriangles; ++t) {
+      table.moveFirst();
+      table.move(4 * t);
+      table.edit();
+      table.set(field::genelrezerv, 1 + (t * 7919) % 10007);
+      table.set(field::ekxk, holeX(1) * 1000);
+      table.set(field::ebxk, holeX(kGridColumns) * 1000);
+      table.set(field::ekyk, holeY(1) * 1000);
+      table.set(field::ebyk, holeY(kHoles) * 1000);
+      table.update();
+    }
+    batch.commit();
+    return made;
+  }();
+  return path;
 }
 
 void openAndSelect(Session& s, const std::string& path) {

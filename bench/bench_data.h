@@ -43,4 +43,9 @@ void openAndSelect(Session& s, const std::string& path);
 // one drawing of 999 triangles and `limits` limit tables.
 std::string projectWithDrawing(const std::string& file, const std::string& drawing, int limits);
 
+// The project of projectWithDrawing whose drawing "Ag" has reserves spread out of order over
+// the colour classes (so that the class sort moves them) and the frame of all holes stored in
+// every summary row, as triangle entry stores it: the file the views are timed on.
+const std::string& viewsProject();
+
 }  // namespace tri::bench

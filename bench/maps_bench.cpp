@@ -10,30 +10,10 @@
 namespace tri::bench {
 namespace {
 
-// A project of 999 holes with the drawing "Ag" of 999 triangles, whose reserves are spread
-// out of order, so that the sort of the classes moves them.
-const std::string& mapProject() {
-  static const std::string path = [] {
-    std::string made = projectWithDrawing("maps.mdb", "Ag", 0);
-    Database db = Database::open(made);
-    Recordset table = db.openTable("Ag");
-    WriteBatch batch = db.beginBatch();
-    for (int t = 1; t <= kTriangles; ++t) {
-      table.moveFirst();
-      table.move(4 * t);
-      table.edit();
-      table.set("genelrezerv", (t * 7919) % 10007);
-      table.update();
-    }
-    batch.commit();
-    return made;
-  }();
-  return path;
-}
 
 void runMap(benchmark::State& state, Procedure map) {
   Session s;
-  openAndSelect(s, mapProject());
+  openAndSelect(s, viewsProject());
   s.canvas.setLogging(false);
   s.state.views.miktargoster = true;
   for (auto _ : state) map(s.state);
@@ -41,7 +21,7 @@ void runMap(benchmark::State& state, Procedure map) {
 
 void readTableAndHoles(benchmark::State& state, const char* valueField) {
   for (auto _ : state) {
-    RawDatabase db(mapProject());
+    RawDatabase db(viewsProject());
     benchmark::DoNotOptimize(db.readAll("SELECT eks, eye, isim FROM kor"));
     benchmark::DoNotOptimize(db.readAll(std::string("SELECT koordinat1, koordinat2, ") +
                                         valueField + ", ucgensay FROM \"Ag\""));

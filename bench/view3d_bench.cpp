@@ -14,34 +14,10 @@
 namespace tri::bench {
 namespace {
 
-// The drawing "Ag" of 999 triangles with the frame of all holes stored in every summary row,
-// as triangle entry stores it, and reserves spread over the classes.
-const std::string& viewProject() {
-  static const std::string path = [] {
-    std::string made = projectWithDrawing("view3d.mdb", "Ag", 0);
-    Database db = Database::open(made);
-    Recordset table = db.openTable("Ag");
-    WriteBatch batch = db.beginBatch();
-    for (int t = 1; t <= kTriangles; ++t) {
-      table.moveFirst();
-      table.move(4 * t);
-      table.edit();
-      table.set(field::genelrezerv, 1 + (t * 7919) % 10007);
-      table.set(field::ekxk, holeX(1) * 1000);
-      table.set(field::ebxk, holeX(32) * 1000);
-      table.set(field::ekyk, holeY(1) * 1000);
-      table.set(field::ebyk, holeY(kHoles) * 1000);
-      table.update();
-    }
-    batch.commit();
-    return made;
-  }();
-  return path;
-}
 
 void BM_View3DStep(benchmark::State& state) {
   Session s;
-  openAndSelect(s, viewProject());
+  openAndSelect(s, viewsProject());
   s.canvas.setLogging(false);
   Views& w = s.state.views;
   w.renksay = 5;
@@ -69,7 +45,7 @@ void BM_View3DStep_floor(benchmark::State& state) {
                    ", " + numbered(field::uz, c);
   }
   for (auto _ : state) {
-    RawDatabase db(viewProject());
+    RawDatabase db(viewsProject());
     benchmark::DoNotOptimize(db.readAll("SELECT eks, eye, isim FROM kor"));
     benchmark::DoNotOptimize(
         db.readAll("SELECT koordinat1, koordinat2, say, sondgir, cevhgir, cevhcik, sondcik, "

@@ -134,14 +134,7 @@ void printPartLabels(State& s) {
 }
 
 void Mnurkot_Click(State& s) {
-  // The hint is the difference of two texts taken as numbers. "Put " is no number, so its
-  // conversion is a type mismatch that ends the program here.
-  const double put = toNumber("Put ");
-  const double sign = toNumber(" sign before negative elevation");
-  s.ui.setLabel(1, numberText(put - sign));
-  removeMarkers(s);
-  s.production.urupkot = toNumber(s.dialogs.inputBox("Enter Up Elevation: ", ""));
-  s.production.urdownkot = toNumber(s.dialogs.inputBox("Enter Down Elevation: ", ""));
+  askElevations(s, s.production.urupkot, s.production.urdownkot);
 }
 
 void Mnselan_Click(State& s) {

@@ -6,16 +6,7 @@
 
 namespace tri {
 
-void Mntkot_Click(State& s) {
-  // The hint is the difference of two texts taken as numbers. "Put " is no number, so its
-  // conversion is a type mismatch that ends the program here.
-  const double put = toNumber("Put ");
-  const double sign = toNumber(" sign before negative elevation");
-  s.ui.setLabel(1, numberText(put - sign));
-  removeMarkers(s);
-  s.scan.upkot = toNumber(s.dialogs.inputBox("Enter Up Elevation: ", ""));
-  s.scan.downkot = toNumber(s.dialogs.inputBox("Enter Down Elevation: ", ""));
-}
+void Mntkot_Click(State& s) { askElevations(s, s.scan.upkot, s.scan.downkot); }
 
 void Mntiklama_Click(State& s) {
   ucgenplan(s);

@@ -27,6 +27,15 @@ void printText(Canvas& c, Color color, double x, double y, const std::string& te
   c.print(text);
 }
 
+void askElevations(State& s, double& up, double& down) {
+  const double put = toNumber("Put ");
+  const double sign = toNumber(" sign before negative elevation");
+  s.ui.setLabel(1, numberText(put - sign));
+  removeMarkers(s);
+  up = toNumber(s.dialogs.inputBox("Enter Up Elevation: ", ""));
+  down = toNumber(s.dialogs.inputBox("Enter Down Elevation: ", ""));
+}
+
 std::string elevationText(double up, double down) {
   return "(" + numberText(up) + " , " + numberText(down) + ")";
 }

@@ -1,5 +1,5 @@
-// Steps the scan commands share with production digitizing: the start of a mode over the
-// plan, and the printing of a stored result.
+// Steps the scan commands share with production digitizing: the elevations of the bench, the
+// start of a mode over the plan, and the printing of a stored result.
 #pragma once
 
 #include <string>
@@ -15,6 +15,11 @@ inline constexpr Color kScanRed = rgb(255, 0, 0);
 // Turns every view and tool off and `flag` on (none when null), enables the eight items of
 // the plan's menus, removes the marker shapes and shows the plan alone.
 void startScanMode(State& s, bool Flags::*flag);
+
+// The elevation commands' steps: the hint in Label1 and the two prompts into `up` and `down`.
+// The hint is the difference of two texts taken as numbers; "Put " is no number, so its
+// conversion is a type mismatch that ends the program before the prompts.
+void askElevations(State& s, double& up, double& down);
 
 // Prints text at (x, y) in a colour with the pen as it stands.
 void printText(Canvas& c, Color color, double x, double y, const std::string& text);
