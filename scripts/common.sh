@@ -1,7 +1,8 @@
 # Shared steps of scripts/run and scripts/test: install what is missing, configure, build.
 
 PACKAGES=(cmake g++ make pkg-config libsqlite3-dev libfreexl-dev qt6-base-dev libgl-dev
-          libgtest-dev libbenchmark-dev xvfb xauth fonts-dejavu-core clang-format)
+          libgtest-dev libbenchmark-dev xvfb xauth fonts-dejavu-core clang-format
+          poppler-utils)
 
 root_dir="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 

@@ -4,6 +4,7 @@
 
 #include "canvas/commands.h"
 #include "commands/menu.h"
+#include "output/commands.h"
 #include "project/commands.h"
 #include "scan/commands.h"
 #include "triangles/commands.h"
@@ -15,9 +16,11 @@ namespace {
 
 // The events of controls other than the menu, and the repaint that scenarios ask for.
 const ProcedureEntry kControlEvents[] = {
-    {"Combo5_Click", Combo5_Click}, {"Combo4_Click", Combo4_Click}, {"Combo2_Click", Combo2_Click},
-    {"Combo1_Click", Combo1_Click}, {"Command1_Click", nullptr},    {"Command2_Click", nullptr},
-    {"HScroll1_Change", nullptr},   {"Form_Load", Form_Load},       {"ucgenplan", ucgenplan},
+    {"Combo5_Click", Combo5_Click},     {"Combo4_Click", Combo4_Click},
+    {"Combo2_Click", Combo2_Click},     {"Combo1_Click", Combo1_Click},
+    {"Command1_Click", Command1_Click}, {"Command2_Click", Command2_Click},
+    {"HScroll1_Change", nullptr},       {"Form_Load", Form_Load},
+    {"ucgenplan", ucgenplan},
 };
 
 // The redraw replay, in its required order: the production, scan and digitizing tools,
