@@ -106,6 +106,7 @@ QPushButton* button(ControlWidgets& widgets, const char* name, const char* capti
 QWidget* buildPrintColumn(ControlWidgets& widgets, Controls& ui, QWidget* parent,
                           const ProcedureRunner& run) {
   auto* column = new QWidget(parent);
+  column->setMaximumWidth(280);  // the preview page stands beside the panels
   auto* layout = new QVBoxLayout(column);
   layout->setContentsMargins(0, 0, 0, 0);
   auto* printers = addPanel(widgets, "Combo3", new QComboBox(column));
@@ -130,6 +131,7 @@ QWidget* buildPreviewPage(ControlWidgets& widgets, const std::unique_ptr<Canvas>
   layout->addWidget(button(widgets, "Command2", "Preview", column, run));
   layout->addStretch();
   widgets.picture2->setFixedSize(210, 297);
+  column->setFixedWidth(210);  // Command2 as wide as the page
   return column;
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QRadioButton>
 #include <fstream>
 
@@ -129,6 +130,8 @@ TEST(WindowPrint, ThePrintPanelsTakeTheCanvasPlaceWithThePdfEntryLast) {
   EXPECT_FALSE(h.picture1()->isVisible());
   h.window.findChild<QRadioButton*>("Option8")->click();
   EXPECT_EQ(h.state().ui.printOption, 8);
+  QDir().mkpath(TRIRESERVE_PICTURES);
+  h.window.grab().save(QString(TRIRESERVE_PICTURES) + "/print_panels.png");
 }
 
 }  // namespace
