@@ -124,7 +124,12 @@ void ImageCanvas::paintPicture(const Canvas& picture, double x, double y, double
   if (!readyToPaint()) return;
   const double px = toPixelX(x);
   const double py = toPixelY(y);
-  painter_.drawImage(QRectF(px, py, toPixelX(x + width) - px, toPixelY(y + height) - py), source);
+  const QRectF target(px, py, toPixelX(x + width) - px, toPixelY(y + height) - py);
+  // Scaled smoothly first, so that thin lines stay visible on a smaller copy.
+  const QSize size = target.size().toSize();
+  if (size.isEmpty()) return;
+  painter_.drawImage(target.topLeft(),
+                     source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 bool ImageCanvas::readyToPaint() {
