@@ -2,7 +2,7 @@
 
 PACKAGES=(cmake g++ make pkg-config libsqlite3-dev libfreexl-dev qt6-base-dev libgl-dev
           libgtest-dev libbenchmark-dev xvfb xauth fonts-dejavu-core clang-format
-          qt6-charts-dev libqt6opengl6-dev qt6-svg-dev)
+          qt6-charts-dev libqt6opengl6-dev qt6-svg-dev poppler-utils)
 
 root_dir="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 

@@ -4,6 +4,7 @@
 
 #include "canvas/commands.h"
 #include "limit/commands.h"
+#include "output/commands.h"
 #include "production/commands.h"
 #include "project/commands.h"
 #include "scan/commands.h"
@@ -22,8 +23,8 @@ const std::vector<MenuItem>& menuItems() {
       {"MnOluştur", "Mndosya", "&Create", "", nullptr, false},
       {"Mnprolus", "MnOluştur", "&Project", "Ctrl+F", Mnprolus_Click, false},
       {"MnKaydet", "Mndosya", "&Save", "", nullptr, false},
-      {"Mnharitakaydet", "MnKaydet", "&Picture", "Ctrl+G", nullptr, false},
-      {"Mnyazdır", "Mndosya", "&Print", "", nullptr, false},
+      {"Mnharitakaydet", "MnKaydet", "&Picture", "Ctrl+G", Mnharitakaydet_Click, false},
+      {"Mnyazdır", "Mndosya", "&Print", "", Mnyazdır_Click, false},
       {"Mncikis", "Mndosya", "&Exit", "", Mncikis_Click, false},
       // Triangle
       {"Mnharita", "", "&Triangle", "", nullptr, false},

@@ -69,6 +69,14 @@ class Controls {
   Combo combo2{"Combo2", "Çizimler"};     // drawing
   Combo combo4{"Combo4", "Litotloji"};    // lithology
   Combo combo5{"Combo5", "Proje"};        // project
+  Combo combo3{"Combo3", ""};             // printers
+
+  // The print panels: the list indexes of List1 (paper size), List2 (direction), List3
+  // (colour) and List4 (quality), the copies typed in Text1, and which of Option1 ..
+  // Option9 of Frame2 is on.
+  std::array<int, 5> printLists{0, 1, 0, 1, 2};  // A4, Vertical, Color, Medium
+  std::string text1 = "1";
+  int printOption = 1;
 
   // Label1 .. Label13; another number is a "Control not found" Fault. Setting Label1
   // tells the window to show progress.

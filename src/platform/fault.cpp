@@ -15,6 +15,7 @@ const char* faultKindName(FaultKind kind) {
     case FaultKind::Database: return "Database error";
     case FaultKind::Workbook: return "Workbook error";
     case FaultKind::ControlNotFound: return "Control not found";
+    case FaultKind::FileAccess: return "Path/File access error";
   }
   return "Run-time error";
 }

@@ -23,6 +23,7 @@ enum class FaultKind {
   Database,
   Workbook,
   ControlNotFound,
+  FileAccess,
 };
 
 // The runtime's name of a kind, such as "Type mismatch".

@@ -1,5 +1,7 @@
 #include "platform/image_canvas.h"
 
+#include "platform/printer.h"
+
 #include <QFontMetricsF>
 #include <QPen>
 #include <QPoint>
@@ -150,9 +152,23 @@ const QImage& ImageCanvas::image() const {
   return image_;
 }
 
-bool ImageCanvas::save(const std::string& path) const {
+bool ImageCanvas::save(const std::string& path, const char* format) const {
   finishPainting();
-  return image_.save(QString::fromStdString(path));
+  return image_.save(QString::fromStdString(path), format);
+}
+
+void ImageCanvas::paintPicture(const Canvas& picture, double x, double y, double width,
+                               double height) {
+  const QImage source = imageOf(picture).image();
+  if (!readyToPaint()) return;
+  const double px = toPixelX(x);
+  const double py = toPixelY(y);
+  const QRectF target(px, py, toPixelX(x + width) - px, toPixelY(y + height) - py);
+  // Scaled smoothly first, so that thin lines stay visible on a smaller copy.
+  const QSize size = target.size().toSize();
+  if (size.isEmpty()) return;
+  painter_.drawImage(target.topLeft(),
+                     source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 bool ImageCanvas::readyToPaint() {
@@ -177,6 +193,7 @@ void ImageCanvas::paintResize(int pixelWidth, int pixelHeight) {
 
 void ImageCanvas::paintClear(Color background) {
   finishPainting();
+  texts_.clear();
   image_.fill(toQColor(background));
 }
 
@@ -279,6 +296,7 @@ void ImageCanvas::paintText(double px, double py, const std::string& text, Color
   painter_.setFont(font_);
   painter_.setPen(toQColor(color));
   painter_.drawStaticText(QPointF(left, top), laidOut(text));
+  texts_.push_back({left, top, text, pointSize});
 }
 
 const QStaticText& ImageCanvas::laidOut(const std::string& text) {

@@ -8,6 +8,7 @@
 #include <QStaticText>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/canvas.h"
 
@@ -19,9 +20,22 @@ class ImageCanvas : public Canvas {
 
   // The finished picture: drawing still in progress is completed first.
   const QImage& image() const;
-  // Writes the picture; the format follows the extension (.bmp, .png, .jpg).
-  // Returns false when the file cannot be written.
-  bool save(const std::string& path) const;
+  // Writes the picture; the format follows the extension (.bmp, .png, .jpg) unless one is
+  // given ("BMP"). Returns false when the file cannot be written.
+  bool save(const std::string& path, const char* format = nullptr) const;
+  // Copies another picture's image onto this one at (x, y), size width by height, in this
+  // canvas's world units (PaintPicture).
+  void paintPicture(const Canvas& picture, double x, double y, double width, double height);
+
+  // The texts on the picture since it was last cleared, at their top left corners in
+  // pixels, so that a printed copy can carry them as text.
+  struct PlacedText {
+    double px;
+    double py;
+    std::string text;
+    int pointSize;
+  };
+  const std::vector<PlacedText>& texts() const { return texts_; }
 
  protected:
   void paintResize(int pixelWidth, int pixelHeight) override;
@@ -46,6 +60,7 @@ class ImageCanvas : public Canvas {
   const QStaticText& laidOut(const std::string& text);
 
   QImage image_;
+  std::vector<PlacedText> texts_;
   // One painter stays open across drawing calls (opening one per call costs more than
   // drawing a short line); it is ended before the picture is read or replaced.
   mutable QPainter painter_;

@@ -7,7 +7,8 @@ namespace tri {
 
 // The window
 void Form_Load(State& s);
-// The canvas has been given a new size in pixels.
+// The canvas has been given a new size in pixels; the window has put its own size in
+// s.layout.
 void Form_Resize(State& s, int canvasWidth, int canvasHeight);
 void Mncikis_Click(State& s);
 

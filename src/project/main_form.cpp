@@ -16,9 +16,10 @@ void Form_Load(State& s) {
 void Form_Resize(State& s, int canvasWidth, int canvasHeight) {
   s.canvas.cls();
   s.frame.olcekgirildi = false;
-  // The print layout's reference sizes, from the size in twips (15 to a pixel at 96 dpi).
-  s.layout.referenceWidth = canvasWidth * 15.0 * 841 / 12825;
-  s.layout.referenceHeight = canvasHeight * 15.0 * 361 / 7005;
+  // The print layout's reference sizes, from the form's size in twips.
+  const double twipsPerPixel = 1440 / s.canvas.dotsPerInch();
+  s.layout.referenceWidth = s.layout.formWidth * twipsPerPixel * 841 / 12825;
+  s.layout.referenceHeight = s.layout.formHeight * twipsPerPixel * 361 / 7005;
   s.layout.lastCanvasWidth = s.canvas.pixelWidth();
   s.layout.lastCanvasHeight = s.canvas.pixelHeight();
   s.canvas.resize(canvasWidth, canvasHeight);

@@ -214,6 +214,8 @@ struct DialogColors {
 
 // Sizes kept by the window layout.
 struct Layout {
+  int formWidth = 0;  // the window's size in pixels, as the window last gave it
+  int formHeight = 0;
   double referenceWidth = 0;   // form width x 841 / 12825
   double referenceHeight = 0;  // form height x 361 / 7005
   int lastCanvasWidth = 0;     // the canvas size before the last resize

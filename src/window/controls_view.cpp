@@ -42,6 +42,24 @@ void reflectScrollBar(const Controls& ui, QScrollBar* bar) {
   bar->setValue(ui.hscroll1Value);
 }
 
+void reflectPrintPanels(const Controls& ui, ControlWidgets& widgets) {
+  for (int n = 1; n < static_cast<int>(widgets.printLists.size()); ++n) {
+    QListWidget* list = widgets.printLists[n];
+    if (!list || list->currentRow() == ui.printLists[n]) continue;
+    const QSignalBlocker quiet(list);
+    list->setCurrentRow(ui.printLists[n]);
+  }
+  if (widgets.text1 && widgets.text1->text().toStdString() != ui.text1) {
+    widgets.text1->setText(text(ui.text1));
+  }
+  if (ui.printOption > 0 && ui.printOption < static_cast<int>(widgets.options.size()) &&
+      widgets.options[ui.printOption]) {
+    const QSignalBlocker quiet(widgets.options[ui.printOption]);
+    widgets.options[ui.printOption]->setChecked(true);
+  }
+  if (widgets.picture2) widgets.picture2->update();
+}
+
 }  // namespace
 
 QLabel* addLabel(ControlWidgets& widgets, int number, QWidget* parent) {
@@ -62,6 +80,7 @@ void reflectControls(const Controls& ui, ControlWidgets& widgets) {
   reflectMenu(ui, widgets.menu);
   reflectVisibility(ui, widgets.panels);
   if (widgets.hscroll1) reflectScrollBar(ui, widgets.hscroll1);
+  reflectPrintPanels(ui, widgets);
   if (widgets.picture1) {
     widgets.picture1->setToolTip(text(ui.picture1ToolTip));
     widgets.picture1->setLine(ui.line1);

@@ -4,7 +4,11 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRadioButton>
 #include <QScrollBar>
+#include <array>
 #include <map>
 #include <string>
 #include <utility>
@@ -25,6 +29,11 @@ struct ControlWidgets {
   CanvasView* picture1 = nullptr;
   FormView* form = nullptr;
   QScrollBar* hscroll1 = nullptr;
+  // The print panels: List1 .. List4, Text1, Option1 .. Option9 and the preview page.
+  std::array<QListWidget*, 5> printLists{};
+  QLineEdit* text1 = nullptr;
+  std::array<QRadioButton*, 10> options{};
+  QWidget* picture2 = nullptr;
 };
 
 // A label named "Label<number>", registered for reflection.

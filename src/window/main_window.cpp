@@ -16,6 +16,7 @@
 #include "views/commands.h"
 #include "window/print_panels.h"
 #include "window/qt_dialogs.h"
+#include "window/qt_printers.h"
 
 namespace tri {
 
@@ -54,6 +55,10 @@ MainWindow::MainWindow(Dialogs* dialogs, QWidget* parent)
       }) {
   setWindowTitle(kProgramTitle);
   connectControls(state_);
+  printers_ = std::make_unique<QtPrinters>([this] {
+    return state_.dialogs.saveFile("Print to PDF File", "PDF Document (*.pdf)|*.pdf").path;
+  });
+  state_.output.printers = printers_.get();
   for (const auto& [number, caption] : printPanelCaptions()) state_.ui.setLabel(number, caption);
   buildWidgets();
   widgets_.menu = buildMenuBar(menuBar(), menuItems(),
@@ -68,6 +73,7 @@ MainWindow::~MainWindow() {
   ended_ = true;
   state_.ui.onProgress = nullptr;
   state_.ui.onLayout = nullptr;
+  state_.output.printers = nullptr;
   delete takeCentralWidget();
 }
 
@@ -117,8 +123,8 @@ QWidget* MainWindow::buildCanvasArea(QWidget* parent) {
   layout->setSpacing(0);  // the print panels take no room while they are hidden
   const ProcedureRunner run = [this](Procedure procedure) { runProcedure(procedure); };
   // The print column at the left edge, the preview page to its right, then the canvas.
-  layout->addWidget(buildPrintColumn(widgets_, area, run));
-  layout->addWidget(buildPreviewPage(widgets_, area, run), 0, Qt::AlignTop);
+  layout->addWidget(buildPrintColumn(widgets_, state_.ui, area, run));
+  layout->addWidget(buildPreviewPage(widgets_, state_.output.picture2, area, run), 0, Qt::AlignTop);
   widgets_.picture1 = addPanel(widgets_, "Picture1", new CanvasView(canvas_, area));
   layout->addWidget(widgets_.picture1, 1);
   return area;
@@ -270,7 +276,11 @@ void MainWindow::resizeCanvas(QSize size) {
     pendingResize_ = size;
     return;
   }
-  runCommand([=, this] { Form_Resize(state_, size.width(), size.height()); });
+  runCommand([=, this] {
+    state_.layout.formWidth = width();
+    state_.layout.formHeight = height();
+    Form_Resize(state_, size.width(), size.height());
+  });
 }
 
 void MainWindow::showProgress() {

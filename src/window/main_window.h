@@ -17,6 +17,7 @@
 namespace tri {
 
 class QtDialogs;
+class QtPrinters;
 
 class MainWindow : public QMainWindow {
   Q_OBJECT
@@ -65,6 +66,7 @@ class MainWindow : public QMainWindow {
   ImageCanvas form_;
   std::unique_ptr<QtDialogs> ownDialogs_;
   State state_;
+  std::unique_ptr<QtPrinters> printers_;
   ControlWidgets widgets_;
   FaultReporter reportFault_;
   int running_ = 0;

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
+#include <QRadioButton>
 #include <fstream>
 
 #include "window/gui_harness.h"
@@ -111,6 +113,25 @@ TEST(WindowFault, ExitClosesTheWindowWithoutAnError) {
   EXPECT_EQ(h.runInApplication([&] { h.action("Mncikis")->trigger(); }), 0);
   EXPECT_FALSE(h.window.isVisible());
   EXPECT_TRUE(h.faults.empty());
+}
+
+}  // namespace
+}  // namespace tri
+
+namespace tri {
+namespace {
+
+TEST(WindowPrint, ThePrintPanelsTakeTheCanvasPlaceWithThePdfEntryLast) {
+  WindowHarness h;
+  h.trigger("Mnyazdır");
+  QComboBox* printers = h.combo("Combo3");
+  ASSERT_GT(printers->count(), 0);
+  EXPECT_EQ(printers->itemText(printers->count() - 1), "PDF file");
+  EXPECT_FALSE(h.picture1()->isVisible());
+  h.window.findChild<QRadioButton*>("Option8")->click();
+  EXPECT_EQ(h.state().ui.printOption, 8);
+  QDir().mkpath(TRIRESERVE_PICTURES);
+  h.window.grab().save(QString(TRIRESERVE_PICTURES) + "/print_panels.png");
 }
 
 }  // namespace
