@@ -18,12 +18,16 @@ namespace {
 // The events of controls other than the menu, and the repaint that scenarios ask for.
 // clang-format off
 const ProcedureEntry kControlEvents[] = {
-    {"Combo5_Click", Combo5_Click},     {"Combo4_Click", Combo4_Click},
-    {"Combo2_Click", Combo2_Click},     {"Combo1_Click", Combo1_Click},
-    {"Command1_Click", Command1_Click}, {"Command2_Click", Command2_Click},
-    {"HScroll1_Change", HScroll1_Change}, {"Form_Load", Form_Load},
-    {"ucgenplan", ucgenplan},
-    {"PageNext_Click", PageNext_Click},
+    {"Combo5_Click",       Combo5_Click},
+    {"Combo4_Click",       Combo4_Click},
+    {"Combo2_Click",       Combo2_Click},
+    {"Combo1_Click",       Combo1_Click},
+    {"Command1_Click",     Command1_Click},
+    {"Command2_Click",     Command2_Click},
+    {"HScroll1_Change",    HScroll1_Change},
+    {"Form_Load",          Form_Load},
+    {"ucgenplan",          ucgenplan},
+    {"PageNext_Click",     PageNext_Click},
     {"PagePrevious_Click", PagePrevious_Click},
 };
 // clang-format on
