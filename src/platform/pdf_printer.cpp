@@ -8,26 +8,11 @@
 #include "platform/fault.h"
 #include "platform/image_canvas.h"
 #include "platform/printer.h"
+#include "platform/qt_page.h"
 
 namespace tri {
 
 namespace {
-
-constexpr double kCmPerInch = 2.54;
-
-QPageSize::PageSizeId pageSizeId(int code) {
-  switch (code) {
-    case kPaperA3: return QPageSize::A3;
-    case kPaperA5: return QPageSize::A5;
-    default: return QPageSize::A4;
-  }
-}
-
-// Dots per inch of each print quality, draft to high.
-int resolutionOf(int quality) {
-  static constexpr int kDpi[] = {150, 200, 300, 600};
-  return kDpi[std::clamp(quality, 1, 4) - 1];
-}
 
 // The picture's texts, invisible over their printed image, so that the document's text
 // can be found and copied.

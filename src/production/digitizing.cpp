@@ -74,21 +74,6 @@ void countAreas(State& s, Database& db, int i, const char* table) {
   }
 }
 
-// The red point of every triangle the display drew, kept to pick a triangle by.
-void drawRedPoints(State& s) {
-  Canvas& c = s.canvas;
-  const Display& d = s.display;
-  for (int t = 1; t <= d.ucgendraw; ++t) {
-    c.foreColor = kScanRed;
-    c.drawWidth = 10;
-    const double x = (d.x2[t] + d.x1[t] + d.x3[t]) / 3;
-    const double y = (d.y2[t] + d.y1[t] + d.y3[t]) / 3;
-    c.pset(x, y);
-    s.scan.redpointx[t] = x;
-    s.scan.redpointy[t] = y;
-  }
-}
-
 // Finds the first triangle whose red square holds the triangle pick. False, with the
 // message, when the last triangle was passed without one; no triangle at all finds none
 // and goes on.
@@ -133,9 +118,7 @@ void printPartLabels(State& s) {
   for (int n = 1; n <= pr.urscansay; ++n) printScanLabel(c, pr.urlabel(n, at(pr.secplan)));
 }
 
-void Mnurkot_Click(State& s) {
-  askElevations(s, s.production.urupkot, s.production.urdownkot);
-}
+void Mnurkot_Click(State& s) { askElevations(s, s.production.urupkot, s.production.urdownkot); }
 
 void Mnselan_Click(State& s) {
   s.canvas.cls();

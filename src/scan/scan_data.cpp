@@ -14,17 +14,7 @@ void Mntiklama_Click(State& s) {
   // Every run reserves the slot of the coming result, a replay's run too.
   s.scan.scansay += 1;
   s.ui.setLabel(1, "Click on the red point in the corresponding triangle");
-  Canvas& c = s.canvas;
-  const Display& d = s.display;
-  for (int t = 1; t <= d.ucgendraw; ++t) {
-    c.foreColor = kScanRed;
-    c.drawWidth = 10;
-    const double x = (d.x2[t] + d.x1[t] + d.x3[t]) / 3;
-    const double y = (d.y2[t] + d.y1[t] + d.y3[t]) / 3;
-    c.pset(x, y);
-    s.scan.redpointx[t] = x;
-    s.scan.redpointy[t] = y;
-  }
+  drawRedPoints(s);
 }
 
 void Mnttem_Click(State& s) {

@@ -36,6 +36,20 @@ void askElevations(State& s, double& up, double& down) {
   down = toNumber(s.dialogs.inputBox("Enter Down Elevation: ", ""));
 }
 
+void drawRedPoints(State& s) {
+  Canvas& c = s.canvas;
+  const Display& d = s.display;
+  for (int t = 1; t <= d.ucgendraw; ++t) {
+    c.foreColor = kScanRed;
+    c.drawWidth = 10;
+    const double x = (d.x2[t] + d.x1[t] + d.x3[t]) / 3;
+    const double y = (d.y2[t] + d.y1[t] + d.y3[t]) / 3;
+    c.pset(x, y);
+    s.scan.redpointx[t] = x;
+    s.scan.redpointy[t] = y;
+  }
+}
+
 std::string elevationText(double up, double down) {
   return "(" + numberText(up) + " , " + numberText(down) + ")";
 }

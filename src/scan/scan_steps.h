@@ -21,6 +21,9 @@ void startScanMode(State& s, bool Flags::*flag);
 // conversion is a type mismatch that ends the program before the prompts.
 void askElevations(State& s, double& up, double& down);
 
+// The red point at the centroid of every triangle the display drew, kept to pick a triangle by.
+void drawRedPoints(State& s);
+
 // Prints text at (x, y) in a colour with the pen as it stands.
 void printText(Canvas& c, Color color, double x, double y, const std::string& text);
 

@@ -8,20 +8,11 @@
 
 #include "platform/fault.h"
 #include "platform/image_canvas.h"
+#include "platform/qt_page.h"
 
 namespace tri {
 
 namespace {
-
-constexpr double kCmPerInch = 2.54;
-
-QPageSize::PageSizeId pageSizeId(int code) {
-  switch (code) {
-    case kPaperA3: return QPageSize::A3;
-    case kPaperA5: return QPageSize::A5;
-    default: return QPageSize::A4;
-  }
-}
 
 // A printer of the system; the document starts with the first picture copied onto it.
 class SystemPrinter : public Printer {
@@ -40,10 +31,7 @@ class SystemPrinter : public Printer {
   void setColorMode(int mode) override {
     printer_.setColorMode(mode == 2 ? QPrinter::Color : QPrinter::GrayScale);
   }
-  void setPrintQuality(int quality) override {
-    static constexpr int kDpi[] = {150, 200, 300, 600};
-    printer_.setResolution(kDpi[std::clamp(quality, 1, 4) - 1]);
-  }
+  void setPrintQuality(int quality) override { printer_.setResolution(resolutionOf(quality)); }
   void setCopies(int copies) override { printer_.setCopyCount(copies); }
   void setPaperSize(int code) override { printer_.setPageSize(QPageSize(pageSizeId(code))); }
 
