@@ -74,6 +74,15 @@ void printAt(Canvas& c, double x, double y, const std::string& text) {
   c.print(text);
 }
 
+// A field's position, or -1 without such a field: the reads that need it fault later.
+int fieldIfAny(const Recordset& table, const char* name) {
+  try {
+    return table.fieldIndex(name);
+  } catch (const Fault&) {
+    return -1;
+  }
+}
+
 }  // namespace
 
 std::optional<MapTable> openMapPass(State& s, const MapHead& head) {
@@ -95,7 +104,8 @@ std::optional<MapTable> openMapPass(State& s, const MapHead& head) {
   return MapTable{std::move(db), std::move(table)};
 }
 
-int computeReserveClasses(State& s, Recordset& table, std::vector<double>& reserves) {
+int computeReserveClasses(State& s, Recordset& table, std::vector<double>& reserves,
+                          std::vector<std::optional<TriangleCorners>>* corners) {
   Views& w = s.views;
   table.moveLast();
   w.rezervsay = sixteenBitCount(table.number(field::ucgensay));
@@ -104,8 +114,29 @@ int computeReserveClasses(State& s, Recordset& table, std::vector<double>& reser
   reserves.assign(static_cast<size_t>(std::max(n, 0)), 0.0);
   if (n > 0) {
     int column = -1;
+    const int cx = corners ? fieldIfAny(table, field::koordinat1) : -1;
+    const int cy = corners ? fieldIfAny(table, field::koordinat2) : -1;
+    if (corners) corners->assign(static_cast<size_t>(n), std::nullopt);
     for (int i = 1; i <= n; ++i) {
-      table.move(4);
+      if (corners) {
+        // Step by step over the corner rows, taking the corners where they are plain.
+        TriangleCorners seen;
+        bool plain = true;
+        for (int k = 1; k <= 3; ++k) {
+          table.moveNext();
+          const std::optional<double> x = plain ? table.storedWhole(cx) : std::nullopt;
+          const std::optional<double> y = plain ? table.storedWhole(cy) : std::nullopt;
+          plain = x && y;
+          if (plain) {
+            seen.x[k] = *x / 1000;
+            seen.y[k] = *y / 1000;
+          }
+        }
+        if (plain) (*corners)[i - 1] = seen;
+        table.moveNext();
+      } else {
+        table.move(4);
+      }
       if (column < 0) column = table.fieldIndex(field::genelrezerv);
       reserves[i - 1] = w.rezervsira[i] = table.number(column) / 1000;
     }

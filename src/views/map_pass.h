@@ -42,8 +42,10 @@ std::optional<MapTable> openMapPass(State& s, const MapHead& head);
 // The colour classes of the table's reserves: rezervsay from the last row's ucgensay (a
 // 16-bit count), rezervsira the reserves of triangles 1 .. rezervsay sorted ascending, and
 // rezervadim the range over renksay. Returns rezervsay; `reserves` holds the reserves in the
-// table's order, triangle t at t - 1.
-int computeReserveClasses(State& s, Recordset& table, std::vector<double>& reserves);
+// table's order, triangle t at t - 1. With `corners`, the same walk keeps each triangle's
+// corners that are stored as whole numbers (the others are left to be read later).
+int computeReserveClasses(State& s, Recordset& table, std::vector<double>& reserves,
+                          std::vector<std::optional<TriangleCorners>>* corners = nullptr);
 
 // The class of a reserve: the first j from 1 to renksay with v not above
 // rezervsira[1] + rezervadim x j, so that a value on a limit is in the lower class; 0 when

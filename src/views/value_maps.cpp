@@ -78,10 +78,13 @@ void Mngenelrezervler_Click(State& s) {
   ++w.rezervcizimsay;
   w.toplamrezerv = 0;
   std::vector<double> reserves;
-  const int n = computeReserveClasses(s, pass->table, reserves);
+  std::vector<std::optional<TriangleCorners>> corners;
+  const int n = computeReserveClasses(s, pass->table, reserves, &corners);
   for (int i = 1; i <= n; ++i) {
     if (i > 1) setCanvasScale(s);
-    const MapTriangle triangle = readMapTriangle(pass->table, i, reserves[i - 1]);
+    const std::optional<TriangleCorners>& seen = corners[i - 1];
+    const MapTriangle triangle = seen ? MapTriangle{reserves[i - 1], *seen}
+                                      : readMapTriangle(pass->table, i, reserves[i - 1]);
     drawClassDisc(s, triangle, discRadius(w, triangle.corners));
     drawSides(s.canvas, triangle.corners);
     drawValueLabel(s, triangle);
