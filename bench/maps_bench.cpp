@@ -10,7 +10,6 @@
 namespace tri::bench {
 namespace {
 
-
 void runMap(benchmark::State& state, Procedure map) {
   Session s;
   openAndSelect(s, viewsProject());

@@ -14,7 +14,6 @@
 namespace tri::bench {
 namespace {
 
-
 void BM_View3DStep(benchmark::State& state) {
   Session s;
   openAndSelect(s, viewsProject());

@@ -176,6 +176,9 @@ bool ImageCanvas::readyToPaint() {
   if (image_.isNull() || !painter_.begin(&image_)) return false;
   painter_.setRenderHint(QPainter::Antialiasing, false);
   painter_.setRenderHint(QPainter::TextAntialiasing, false);
+  pen_.reset();
+  brush_.reset();
+  fontOnPainter_ = false;
   return true;
 }
 
@@ -207,7 +210,7 @@ void ImageCanvas::paintLine(double px1, double py1, double px2, double py2, Colo
     plotThinLine(image_, from.toPoint(), to.toPoint(), toQColor(color).rgb());
     return;
   }
-  painter_.setPen(solidPen(color, width));
+  usePen(color, width, false);
   painter_.drawLine(from, to);
 }
 
@@ -227,8 +230,8 @@ void ImageCanvas::paintBox(double px1, double py1, double px2, double py2, Color
                       toQColor(color));
     return;
   }
-  painter_.setPen(solidPen(color, width));
-  painter_.setBrush(Qt::NoBrush);
+  usePen(color, width, false);
+  useBrush(std::nullopt);
   painter_.drawRect(corners);
 }
 
@@ -240,7 +243,9 @@ void ImageCanvas::paintPoint(double px, double py, Color color, int width) {
   if (!withMargin(image_, width).contains(cx, cy)) return;
   // A round dot `width` pixels across. An even width has its middle between two pixels,
   // half a pixel up and to the left of (cx, cy), as the painter centres an even pen.
-  const QColor dotColor = toQColor(color);
+  const QRgb dotColor = toQColor(color).rgb();
+  uchar* bits = image_.bits();
+  const qsizetype stride = image_.bytesPerLine();
   const int first = -(width / 2);
   const int last = first + width - 1;
   const double middle = width % 2 == 0 ? -0.5 : 0.0;
@@ -251,9 +256,13 @@ void ImageCanvas::paintPoint(double px, double py, Color color, int width) {
     const int left = std::max(first, static_cast<int>(std::ceil(middle - halfSpan)));
     const int right = std::min(last, static_cast<int>(std::floor(middle + halfSpan)));
     if (left > right) continue;
-    painter_.fillRect(
-        QRect(static_cast<int>(cx) + left, static_cast<int>(cy) + dy, right - left + 1, 1),
-        dotColor);
+    // A row of the dot straight into the picture's pixels, cut to it.
+    const int y = static_cast<int>(cy) + dy;
+    if (y < 0 || y >= image_.height()) continue;
+    const int from = std::max(0, static_cast<int>(cx) + left);
+    const int to = std::min(image_.width() - 1, static_cast<int>(cx) + right);
+    QRgb* pixels = reinterpret_cast<QRgb*>(bits + y * stride);
+    for (int x = from; x <= to; ++x) pixels[x] = dotColor;
   }
 }
 
@@ -272,12 +281,8 @@ void ImageCanvas::paintEllipse(double cx, double cy, double rx, double ry, Color
     if (filled) painter_.fillRect(image_.rect(), toQColor(fill));
     return;
   }
-  painter_.setPen(solidPen(color, width));
-  if (filled) {
-    painter_.setBrush(toQColor(fill));
-  } else {
-    painter_.setBrush(Qt::NoBrush);
-  }
+  usePen(color, width, false);
+  useBrush(filled ? std::optional<Color>(fill) : std::nullopt);
   painter_.drawEllipse(bounds);
 }
 
@@ -293,8 +298,11 @@ void ImageCanvas::paintText(double px, double py, const std::string& text, Color
     return;
   }
   useFont(pointSize);
-  painter_.setFont(font_);
-  painter_.setPen(toQColor(color));
+  if (!fontOnPainter_) {
+    painter_.setFont(font_);
+    fontOnPainter_ = true;
+  }
+  usePen(color, 1, true);
   painter_.drawStaticText(QPointF(left, top), laidOut(text));
   texts_.push_back({left, top, text, pointSize});
 }
@@ -320,7 +328,8 @@ void ImageCanvas::paintPolygon(const int* xy, int points, Color color) {
   QPolygonF polygon;
   for (int i = 0; i < points; ++i) polygon << QPointF(xy[2 * i], xy[2 * i + 1]);
   painter_.setPen(Qt::NoPen);
-  painter_.setBrush(toQColor(color));
+  pen_.reset();
+  useBrush(color);
   painter_.drawPolygon(polygon, Qt::WindingFill);
 }
 
@@ -351,7 +360,29 @@ void ImageCanvas::useFont(int pointSize) const {
   const QFontMetricsF metrics(font_);
   fontLineHeight_ = std::max(metrics.height(), metrics.lineSpacing());
   fontPointSize_ = pointSize;
+  fontOnPainter_ = false;
   laidOutTexts_.clear();
+}
+
+void ImageCanvas::usePen(Color color, int width, bool forText) {
+  const PenKey key{color, width, forText};
+  if (pen_ == key) return;
+  if (forText) {
+    painter_.setPen(toQColor(color));
+  } else {
+    painter_.setPen(solidPen(color, width));
+  }
+  pen_ = key;
+}
+
+void ImageCanvas::useBrush(std::optional<Color> fill) {
+  if (brush_ == fill) return;
+  if (fill) {
+    painter_.setBrush(toQColor(*fill));
+  } else {
+    painter_.setBrush(Qt::NoBrush);
+  }
+  brush_ = fill;
 }
 
 }  // namespace tri

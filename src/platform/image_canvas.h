@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QStaticText>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -58,6 +59,10 @@ class ImageCanvas : public Canvas {
   void finishPainting() const;
   void useFont(int pointSize) const;
   const QStaticText& laidOut(const std::string& text);
+  // The painter's pen, brush and font are set only when they change: making a pen costs
+  // more than the short lines and small discs of a plan.
+  void usePen(Color color, int width, bool forText);
+  void useBrush(std::optional<Color> fill);
 
   QImage image_;
   std::vector<PlacedText> texts_;
@@ -69,6 +74,16 @@ class ImageCanvas : public Canvas {
   mutable double fontLineHeight_ = 0;
   // Texts laid out in the current font: a repaint prints the same labels again.
   mutable std::unordered_map<std::string, QStaticText> laidOutTexts_;
+  // What the painter holds now; unknown (nullopt) once it is begun again.
+  struct PenKey {
+    Color color;
+    int width;
+    bool forText;
+    bool operator==(const PenKey&) const = default;
+  };
+  std::optional<PenKey> pen_;
+  std::optional<std::optional<Color>> brush_;
+  mutable bool fontOnPainter_ = false;
 };
 
 }  // namespace tri

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -81,6 +82,10 @@ class Recordset {
   int fieldIndex(const std::string& field) const;
   double number(int fieldIndex) const;
   std::string text(int fieldIndex) const;
+  // The number of the current row's field when it is stored as a whole number, as number()
+  // reads it; nothing otherwise. Never a Fault: a walk that reads ahead of its use takes
+  // the other values later with number(), where their Faults belong.
+  std::optional<double> storedWhole(int fieldIndex) const;
 
   // Editing. addNew() starts a new row, edit() the current one; set() writes into the
   // buffer; update() stores it. After update() of a new row the current row is the one

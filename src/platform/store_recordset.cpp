@@ -319,6 +319,20 @@ double Recordset::number(int column) const {
   return r.numberOf(r.read(column), column);
 }
 
+std::optional<double> Recordset::storedWhole(int column) const {
+  try {
+    Impl& r = liveRows(impl_);
+    if (column < 0 || column >= static_cast<int>(r.table->fields.size())) return std::nullopt;
+    if (r.editing != Editing::None || r.onDeletedRow || r.position < 0 || r.position >= r.count())
+      return std::nullopt;
+    sqlite3_value* value = sqlite3_column_value(r.currentRow(), r.table->resultColumn(column));
+    if (sqlite3_value_type(value) != SQLITE_INTEGER) return std::nullopt;
+    return static_cast<double>(sqlite3_value_int64(value));
+  } catch (const Fault&) {
+    return std::nullopt;
+  }
+}
+
 std::string Recordset::text(const std::string& field) const {
   return text(liveRows(impl_).column(field));
 }

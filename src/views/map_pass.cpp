@@ -1,5 +1,6 @@
 #include "views/map_pass.h"
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -41,8 +42,18 @@ std::int16_t sixteenBitCount(double n) {
 }
 
 // The plain exchange sort: every pair (a, b) over the whole range, swapped when the a-th
-// is less than the b-th, which leaves the values ascending.
+// is less than the b-th, which leaves the values ascending. Values that compare equal are
+// the same number unless a zero carries a sign or a value is not a number: only then can
+// the order the exchanges leave differ from any other ascending order, so only then are
+// they made one by one.
 void exchangeSort(std::vector<double>& values) {
+  const bool plain = std::none_of(values.begin(), values.end(), [](double v) {
+    return std::isnan(v) || (v == 0 && std::signbit(v));
+  });
+  if (plain) {
+    std::sort(values.begin(), values.end());
+    return;
+  }
   const size_t n = values.size();
   for (size_t a = 0; a < n; ++a) {
     for (size_t b = 0; b < n; ++b) {
@@ -61,6 +72,15 @@ void printAt(Canvas& c, double x, double y, const std::string& text) {
   c.currentX = x;
   c.currentY = y;
   c.print(text);
+}
+
+// A field's position, or -1 without such a field: the reads that need it fault later.
+int fieldIfAny(const Recordset& table, const char* name) {
+  try {
+    return table.fieldIndex(name);
+  } catch (const Fault&) {
+    return -1;
+  }
 }
 
 }  // namespace
@@ -84,19 +104,43 @@ std::optional<MapTable> openMapPass(State& s, const MapHead& head) {
   return MapTable{std::move(db), std::move(table)};
 }
 
-int computeReserveClasses(State& s, Recordset& table) {
+int computeReserveClasses(State& s, Recordset& table, std::vector<double>& reserves,
+                          std::vector<std::optional<TriangleCorners>>* corners) {
   Views& w = s.views;
   table.moveLast();
   w.rezervsay = sixteenBitCount(table.number(field::ucgensay));
   const int n = w.rezervsay;
   table.moveFirst();
-  for (int i = 1; i <= n; ++i) {
-    table.move(4);
-    w.rezervsira[i] = table.number(field::genelrezerv) / 1000;
-  }
+  reserves.assign(static_cast<size_t>(std::max(n, 0)), 0.0);
   if (n > 0) {
-    std::vector<double> sorted(static_cast<size_t>(n));
-    for (int i = 1; i <= n; ++i) sorted[i - 1] = w.rezervsira[i];
+    int column = -1;
+    const int cx = corners ? fieldIfAny(table, field::koordinat1) : -1;
+    const int cy = corners ? fieldIfAny(table, field::koordinat2) : -1;
+    if (corners) corners->assign(static_cast<size_t>(n), std::nullopt);
+    for (int i = 1; i <= n; ++i) {
+      if (corners) {
+        // Step by step over the corner rows, taking the corners where they are plain.
+        TriangleCorners seen;
+        bool plain = true;
+        for (int k = 1; k <= 3; ++k) {
+          table.moveNext();
+          const std::optional<double> x = plain ? table.storedWhole(cx) : std::nullopt;
+          const std::optional<double> y = plain ? table.storedWhole(cy) : std::nullopt;
+          plain = x && y;
+          if (plain) {
+            seen.x[k] = *x / 1000;
+            seen.y[k] = *y / 1000;
+          }
+        }
+        if (plain) (*corners)[i - 1] = seen;
+        table.moveNext();
+      } else {
+        table.move(4);
+      }
+      if (column < 0) column = table.fieldIndex(field::genelrezerv);
+      reserves[i - 1] = w.rezervsira[i] = table.number(column) / 1000;
+    }
+    std::vector<double> sorted = reserves;
     exchangeSort(sorted);
     for (int i = 1; i <= n; ++i) w.rezervsira[i] = sorted[i - 1];
   }
@@ -109,6 +153,14 @@ int reserveClass(const Views& w, double v) {
     if (v <= w.rezervsira[1] + w.rezervadim * j) return static_cast<int>(j);
   }
   return 0;
+}
+
+MapTriangle readMapTriangle(Recordset& table, int t, double value) {
+  MapTriangle triangle;
+  triangle.corners = readTriangleCorners(table, t);
+  table.moveNext();
+  triangle.v = value;
+  return triangle;
 }
 
 MapTriangle readMapTriangle(Recordset& table, int t, const char* valueField) {

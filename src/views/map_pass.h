@@ -4,6 +4,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "canvas/frame.h"
 #include "platform/store.h"
@@ -40,8 +41,11 @@ std::optional<MapTable> openMapPass(State& s, const MapHead& head);
 
 // The colour classes of the table's reserves: rezervsay from the last row's ucgensay (a
 // 16-bit count), rezervsira the reserves of triangles 1 .. rezervsay sorted ascending, and
-// rezervadim the range over renksay. Returns rezervsay.
-int computeReserveClasses(State& s, Recordset& table);
+// rezervadim the range over renksay. Returns rezervsay; `reserves` holds the reserves in the
+// table's order, triangle t at t - 1. With `corners`, the same walk keeps each triangle's
+// corners that are stored as whole numbers (the others are left to be read later).
+int computeReserveClasses(State& s, Recordset& table, std::vector<double>& reserves,
+                          std::vector<std::optional<TriangleCorners>>* corners = nullptr);
 
 // The class of a reserve: the first j from 1 to renksay with v not above
 // rezervsira[1] + rezervadim x j, so that a value on a limit is in the lower class; 0 when
@@ -57,6 +61,9 @@ struct MapTriangle {
   double cy() const { return (corners.y[1] + corners.y[2] + corners.y[3]) / 3; }
 };
 MapTriangle readMapTriangle(Recordset& table, int t, const char* valueField);
+// The same walk over a triangle whose value was read before: its summary row is passed, not
+// read again.
+MapTriangle readMapTriangle(Recordset& table, int t, double value);
 
 // Black sides, pen width 1: third corner to second, third to first, first to second.
 void drawSides(Canvas& canvas, const TriangleCorners& corners);

@@ -77,10 +77,14 @@ void Mngenelrezervler_Click(State& s) {
   Views& w = s.views;
   ++w.rezervcizimsay;
   w.toplamrezerv = 0;
-  const int n = computeReserveClasses(s, pass->table);
+  std::vector<double> reserves;
+  std::vector<std::optional<TriangleCorners>> corners;
+  const int n = computeReserveClasses(s, pass->table, reserves, &corners);
   for (int i = 1; i <= n; ++i) {
     if (i > 1) setCanvasScale(s);
-    const MapTriangle triangle = readMapTriangle(pass->table, i, field::genelrezerv);
+    const std::optional<TriangleCorners>& seen = corners[i - 1];
+    const MapTriangle triangle = seen ? MapTriangle{reserves[i - 1], *seen}
+                                      : readMapTriangle(pass->table, i, reserves[i - 1]);
     drawClassDisc(s, triangle, discRadius(w, triangle.corners));
     drawSides(s.canvas, triangle.corners);
     drawValueLabel(s, triangle);

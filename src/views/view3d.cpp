@@ -224,7 +224,8 @@ void drawReserveView(State& s, const MapHead& head) {
   std::optional<MapTable> pass = openMapPass(s, head);
   if (!pass) return;
   s.ui.show("HScroll1");
-  const int n = computeReserveClasses(s, pass->table);
+  std::vector<double> reserves;
+  const int n = computeReserveClasses(s, pass->table, reserves);
   if (n < 1) return;
   const std::string limit = s.ui.combo1.text();
   const bool limitChosen = limit != kLimitTitle;

@@ -4,6 +4,7 @@
 // sample project, with the order of their drawing, are the scenarios tenor_map,
 // reserve_map and general_reserve_map.
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <array>
 #include <cmath>
@@ -225,6 +226,45 @@ TEST(GeneralMap, TheDiscRadiusKeepsTheHalfPerimeterOfTheTriangleBefore) {
   // The next pass starts from that half perimeter of 100: the side of 100
   // counts as 99.
   EXPECT_DOUBLE_EQ(radii().at(0), 14.596907080966082);
+}
+
+TEST(GeneralMap, CornersThatAreNotWholeNumbersAreReadInTheirTurn) {
+  // Triangle 2's first corner (row 5) holds a fraction, then nothing: the walk that reads
+  // the reserves takes only whole numbers ahead, the others are read as the tenor map
+  // reads them, and a Null stops the map at its own triangle.
+  MapSession s({kLowerLeft, {{3, 5, 9}, 0, 2000}, {{1, 2, 4}, 0, 3000}});
+  // Written past the store, which keeps Long fields whole, as another program may have.
+  auto storeCorner = [&s](const std::string& value) {
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(s.path.c_str(), &db), SQLITE_OK);
+    const std::string sql =
+        "UPDATE plan1 SET koordinat1 = " + value +
+        " WHERE rowid = (SELECT rowid FROM plan1 ORDER BY rowid LIMIT 1 OFFSET 5)";
+    EXPECT_EQ(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(db);
+  };
+  auto sides = [&s](const char* map) {
+    s.run(map);
+    std::vector<std::array<double, 4>> lines;
+    for (const CanvasOp& op : s.drawn(Kind::Line)) {
+      lines.push_back({op.at[0], op.at[1], op.at[2], op.at[3]});
+    }
+    return lines;
+  };
+  storeCorner("koordinat1 + 0.75");
+  const auto general = sides("Mngenelrezervler_Click");
+  ASSERT_EQ(general.size(), 9u);
+  EXPECT_EQ(general, sides("Mnyuzdeten_Click"));
+  // A Long field reads a fraction as the whole number nearest to it.
+  EXPECT_DOUBLE_EQ(general[4][2], s.state.holes.eks[3] + 0.001);  // third to first
+  storeCorner("NULL");
+  try {
+    s.run("Mngenelrezervler_Click");
+    ADD_FAILURE() << "a Null corner was drawn";
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.kind(), FaultKind::InvalidUseOfNull);
+  }
+  EXPECT_EQ(s.drawn(Kind::Line).size(), 3u);  // the first triangle only
 }
 
 TEST(GeneralMap, ClassCountsThatCannotWorkStopTheProgram) {
