@@ -6,6 +6,10 @@
 # for the pictures) in the environment.
 set -u
 
+# Qt keeps a private runtime folder; without one it makes it in the temporary folder.
+export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$OUT/qt-runtime}"
+mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+
 fail() {
   echo "FAILED: $*" >&2
   exit 1
