@@ -44,13 +44,6 @@ void startSumsView(State& s, bool Flags::*flag, const char* text) {
   ureciz(s);
 }
 
-void keyPoint(Canvas& c, Color color, double x, double y) {
-  c.drawWidth = 5;
-  c.foreColor = color;
-  c.pset(x, y);
-  c.drawWidth = 1;
-}
-
 std::string elevationKey(const Production& pr) {
   return "Elevation: " + elevationText(pr.urupkot, pr.urdownkot);
 }
@@ -77,9 +70,9 @@ void urtpo(State& s, float x, float y) {
   Canvas& c = s.canvas;
   c.drawWidth = 1;
   printText(c, kScanBlue, x + 10, y, elevationKey(s.production));
-  keyPoint(c, kCyan, x, y - 20);
+  printKeyPoint(c, kCyan, x, y - 20);
   printText(c, kCyan, x + 10, y - 15, "Area (square meters)");
-  keyPoint(c, kScanRed, x, y - 35);
+  printKeyPoint(c, kScanRed, x, y - 35);
   printText(c, kScanRed, x + 10, y - 30, "Reserve (Kilotons)");
   s.ui.setLabel(1, "Ready");
 }
@@ -88,9 +81,9 @@ void urrto(State& s, float x, float y) {
   Canvas& c = s.canvas;
   c.drawWidth = 1;
   printText(c, kScanBlue, x + 10, y, elevationKey(s.production));
-  keyPoint(c, kScanGreen, x, y - 15);
+  printKeyPoint(c, kScanGreen, x, y - 15);
   printText(c, kScanGreen, x + 10, y - 10, "Tenor (%)");
-  keyPoint(c, kMagenta, x, y - 30);
+  printKeyPoint(c, kMagenta, x, y - 30);
   printText(c, kMagenta, x + 10, y - 25, "Intensity ");
   s.ui.setLabel(1, "Ready");
 }

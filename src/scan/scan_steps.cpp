@@ -50,6 +50,13 @@ void drawRedPoints(State& s) {
   }
 }
 
+void printKeyPoint(Canvas& c, Color color, double x, double y) {
+  c.drawWidth = 5;
+  c.foreColor = color;
+  c.pset(x, y);
+  c.drawWidth = 1;
+}
+
 std::string elevationText(double up, double down) {
   return "(" + numberText(up) + " , " + numberText(down) + ")";
 }

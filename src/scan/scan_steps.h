@@ -24,6 +24,9 @@ void askElevations(State& s, double& up, double& down);
 // The red point at the centroid of every triangle the display drew, kept to pick a triangle by.
 void drawRedPoints(State& s);
 
+// A key's point: a dot of pen 5 in the colour, the pen back at 1 after it.
+void printKeyPoint(Canvas& c, Color color, double x, double y);
+
 // Prints text at (x, y) in a colour with the pen as it stands.
 void printText(Canvas& c, Color color, double x, double y, const std::string& text);
 

@@ -54,13 +54,6 @@ void readNetwork(State& s, Recordset& table) {
   }
 }
 
-void printKeyPoint(Canvas& c, Color color, double x, double y) {
-  c.drawWidth = 5;
-  c.foreColor = color;
-  c.pset(x, y);
-  c.drawWidth = 1;
-}
-
 }  // namespace
 
 void Mntrtum_Click(State& s) {
