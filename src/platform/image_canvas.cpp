@@ -1,5 +1,6 @@
 #include "platform/image_canvas.h"
 
+#include "platform/pixel_raster.h"
 #include "platform/printer.h"
 
 #include <QFontMetricsF>
@@ -75,65 +76,15 @@ bool withinRadius(const QImage& image, const QPointF& centre, double radius) {
   return std::hypot(farX, farY) < radius;
 }
 
-// A one-pixel line from a to b, both ends included, straight into the picture's pixels: a
-// plan of a thousand triangles is mostly such lines, and this is far cheaper than the
-// painter's path for them.
-void plotThinLine(QImage& image, QPoint a, QPoint b, QRgb rgb) {
-  const int dx = std::abs(b.x() - a.x()), sx = a.x() < b.x() ? 1 : -1;
-  const int dy = -std::abs(b.y() - a.y()), sy = a.y() < b.y() ? 1 : -1;
-  const int width = image.width(), height = image.height();
-  uchar* bits = image.bits();
-  const qsizetype stride = image.bytesPerLine();
-  int err = dx + dy;
-  for (int x = a.x(), y = a.y();;) {
-    if (x >= 0 && x < width && y >= 0 && y < height) {
-      reinterpret_cast<QRgb*>(bits + y * stride)[x] = rgb;
-    }
-    if (x == b.x() && y == b.y()) break;
-    const int e2 = 2 * err;
-    if (e2 >= dy) err += dy, x += sx;
-    if (e2 <= dx) err += dx, y += sy;
-  }
+QStaticText layOut(const std::string& text, const QFont& font) {
+  QStaticText laid(QString::fromStdString(text));
+  laid.setTextFormat(Qt::PlainText);
+  laid.prepare(QTransform(), font);
+  return laid;
 }
 
-// A solid triangle straight into the picture's pixels: each row fills the pixels whose
-// centres lie inside it, cut to the picture. The 3D view fills thousands of small ones a pass,
-// where the painter's path costs far more than the pixels.
-void fillTriangleInto(QImage& image, const int* xy, QRgb rgb) {
-  struct Corner {
-    double x, y;
-  };
-  Corner a{double(xy[0]), double(xy[1])}, b{double(xy[2]), double(xy[3])};
-  Corner c{double(xy[4]), double(xy[5])};
-  if (b.y < a.y) std::swap(a, b);
-  if (c.y < a.y) std::swap(a, c);
-  if (c.y < b.y) std::swap(b, c);
-  if (c.y == a.y) return;
-  const int width = image.width(), height = image.height();
-  auto row = [height](double y) {
-    return static_cast<int>(std::clamp(std::ceil(y - 0.5), 0.0, double(height)));
-  };
-  auto column = [width](double x) {
-    return static_cast<int>(std::clamp(std::ceil(x - 0.5), 0.0, double(width)));
-  };
-  // The long side from a to c on one hand, a to b and b to c on the other; a pixel centre
-  // is never on a corner's row.
-  const double longSlope = (c.x - a.x) / (c.y - a.y);
-  uchar* bits = image.bits();
-  const qsizetype stride = image.bytesPerLine();
-  for (const auto& [from, to] : {std::pair{a, b}, std::pair{b, c}}) {
-    if (to.y == from.y) continue;
-    const double slope = (to.x - from.x) / (to.y - from.y);
-    for (int y = row(from.y), end = row(to.y); y < end; ++y) {
-      const double centre = y + 0.5;
-      const double x1 = a.x + (centre - a.y) * longSlope;
-      const double x2 = from.x + (centre - from.y) * slope;
-      const int left = column(std::min(x1, x2)), right = column(std::max(x1, x2));
-      QRgb* pixels = reinterpret_cast<QRgb*>(bits + y * stride);
-      std::fill(pixels + left, pixels + std::max(left, right), rgb);
-    }
-  }
-}
+// Larger circles go to the painter, which draws any size.
+constexpr double kLargestPlottedRadius = 4096;
 
 QPen solidPen(Color color, int width) {
   return QPen(toQColor(color), std::max(1, width), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
@@ -281,6 +232,11 @@ void ImageCanvas::paintEllipse(double cx, double cy, double rx, double ry, Color
     if (filled) painter_.fillRect(image_.rect(), toQColor(fill));
     return;
   }
+  if (width <= 1 && rx >= 1 && ry >= 1 && std::max(rx, ry) <= kLargestPlottedRadius) {
+    plotEllipse(image_, bounds.toRect(), toQColor(color).rgb(),
+                filled ? std::optional<QRgb>(toQColor(fill).rgb()) : std::nullopt);
+    return;
+  }
   usePen(color, width, false);
   useBrush(filled ? std::optional<Color>(fill) : std::nullopt);
   painter_.drawEllipse(bounds);
@@ -298,25 +254,33 @@ void ImageCanvas::paintText(double px, double py, const std::string& text, Color
     return;
   }
   useFont(pointSize);
+  texts_.push_back({left, top, text, pointSize});
+  if (const TextStamp* stamp = stampFor(text)) {
+    plotStamp(image_, *stamp, static_cast<int>(left), static_cast<int>(top), toQColor(color).rgb());
+    return;
+  }
   if (!fontOnPainter_) {
     painter_.setFont(font_);
     fontOnPainter_ = true;
   }
   usePen(color, 1, true);
   painter_.drawStaticText(QPointF(left, top), laidOut(text));
-  texts_.push_back({left, top, text, pointSize});
+}
+
+const TextStamp* ImageCanvas::stampFor(const std::string& text) {
+  auto found = stamps_.find(text);
+  if (found == stamps_.end()) {
+    if (stamps_.size() >= kMostTexts) stamps_.clear();
+    found = stamps_.emplace(text, stampOf(layOut(text, font_), font_)).first;
+  }
+  return found->second ? &*found->second : nullptr;
 }
 
 const QStaticText& ImageCanvas::laidOut(const std::string& text) {
-  // Bounded by starting afresh: labels of one plan number far fewer than this.
-  constexpr size_t kMostTexts = 4096;
   auto found = laidOutTexts_.find(text);
   if (found != laidOutTexts_.end()) return found->second;
   if (laidOutTexts_.size() >= kMostTexts) laidOutTexts_.clear();
-  QStaticText laid(QString::fromStdString(text));
-  laid.setTextFormat(Qt::PlainText);
-  laid.prepare(QTransform(), font_);
-  return laidOutTexts_.emplace(text, std::move(laid)).first->second;
+  return laidOutTexts_.emplace(text, layOut(text, font_)).first->second;
 }
 
 void ImageCanvas::paintPolygon(const int* xy, int points, Color color) {
@@ -362,6 +326,7 @@ void ImageCanvas::useFont(int pointSize) const {
   fontPointSize_ = pointSize;
   fontOnPainter_ = false;
   laidOutTexts_.clear();
+  stamps_.clear();
 }
 
 void ImageCanvas::usePen(Color color, int width, bool forText) {

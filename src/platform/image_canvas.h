@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/canvas.h"
+#include "platform/pixel_raster.h"
 
 namespace tri {
 
@@ -59,6 +60,8 @@ class ImageCanvas : public Canvas {
   void finishPainting() const;
   void useFont(int pointSize) const;
   const QStaticText& laidOut(const std::string& text);
+  // The pixels of a text in the current font, or nullptr when only the painter can draw it.
+  const TextStamp* stampFor(const std::string& text);
   // The painter's pen, brush and font are set only when they change: making a pen costs
   // more than the short lines and small discs of a plan.
   void usePen(Color color, int width, bool forText);
@@ -74,6 +77,9 @@ class ImageCanvas : public Canvas {
   mutable double fontLineHeight_ = 0;
   // Texts laid out in the current font: a repaint prints the same labels again.
   mutable std::unordered_map<std::string, QStaticText> laidOutTexts_;
+  mutable std::unordered_map<std::string, std::optional<TextStamp>> stamps_;
+  // Both are bounded by starting afresh: the labels of one plan number far fewer than this.
+  static constexpr size_t kMostTexts = 4096;
   // What the painter holds now; unknown (nullopt) once it is begun again.
   struct PenKey {
     Color color;
