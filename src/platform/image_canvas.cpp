@@ -122,6 +122,12 @@ void ImageCanvas::paintPicture(const Canvas& picture, double x, double y, double
                      source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
+void ImageCanvas::resizeKeepingPicture(int pixelWidth, int pixelHeight) {
+  const QImage kept = image();
+  resize(pixelWidth, pixelHeight);
+  if (readyToPaint()) painter_.drawImage(QPointF(0, 0), kept);
+}
+
 bool ImageCanvas::readyToPaint() {
   if (painter_.isActive()) return true;
   if (image_.isNull() || !painter_.begin(&image_)) return false;

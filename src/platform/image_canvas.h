@@ -28,6 +28,9 @@ class ImageCanvas : public Canvas {
   // Copies another picture's image onto this one at (x, y), size width by height, in this
   // canvas's world units (PaintPicture).
   void paintPicture(const Canvas& picture, double x, double y, double width, double height);
+  // A resize that keeps what is drawn at the top left corner, as a retained picture does: a
+  // larger surface shows the background around it, a smaller one cuts it.
+  void resizeKeepingPicture(int pixelWidth, int pixelHeight);
 
   // The texts on the picture since it was last cleared, at their top left corners in
   // pixels, so that a printed copy can carry them as text.

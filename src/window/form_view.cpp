@@ -67,7 +67,7 @@ void FormView::paintEvent(QPaintEvent*) {
 }
 
 void FormView::resizeEvent(QResizeEvent*) {
-  form_.resize(width(), height());
+  form_.resizeKeepingPicture(width(), height());
   update();
 }
 

@@ -53,6 +53,13 @@ TEST(SelectCutWindow, TwoClicksOnTheBarsCutTheRange) {
   EXPECT_EQ(log.text(2, "lit2"), "orecev");
   EXPECT_EQ(log.text(2, "deg2"), "evet");
   EXPECT_TRUE(form->grab().save(QString(TRIRESERVE_PICTURES) + "/select_cut_after.png"));
+
+  // A larger window keeps the view's texts and lines where they were.
+  const QImage before = form->grab().toImage();
+  h.window.resize(h.window.width() + 120, h.window.height() + 80);
+  QApplication::processEvents();
+  EXPECT_GT(form->width(), before.width());
+  EXPECT_EQ(form->grab().toImage().copy(before.rect()), before);
   EXPECT_TRUE(h.faults.empty()) << h.faultTexts();
 }
 
