@@ -169,15 +169,21 @@ void TableInfo::finalize() {
 
 std::shared_ptr<Connection> Connection::connect(const std::string& path, bool readOnly) {
   sqlite3* raw = nullptr;
-  const int mode = readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
-  int rc = sqlite3_open_v2(path.c_str(), &raw, mode | SQLITE_OPEN_NOMUTEX, nullptr);
+  // A reader is opened for writing too where the file allows it, and told to change nothing:
+  // closing it then removes the journal files that reading a WAL database makes.
+  int rc =
+      sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
   auto connection = std::make_shared<Connection>();
   connection->path = path;
   connection->db = SqliteConnection(raw);
   if (rc != SQLITE_OK) connection->engineFault("cannot open the project database");
   sqlite3_busy_timeout(raw, kBusyTimeoutMs);
   connection->requireDatabaseFile();
-  connection->setJournal();
+  if (readOnly) {
+    connection->execute("PRAGMA query_only=1", "cannot open the project database for reading");
+  } else {
+    connection->setJournal();
+  }
   return connection;
 }
 

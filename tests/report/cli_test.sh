@@ -56,8 +56,9 @@ case "$1" in
     run --csv triangles "$OUT/locked.mdb" "${SEL[@]}"
     expect_code 0
     [ "$out" = "$first" ] || fail "the write-protected copy reads otherwise"
-    rm -f "$OUT"/locked.mdb*  # a read-only reader leaves the journal files it opened
+    rm -f "$OUT"/locked.mdb*
     [ "$(md5sum <"$P")" = "$before" ] || fail "the project file changed"
+    for journal in "$P-wal" "$P-shm"; do [ ! -e "$journal" ] || fail "$journal left behind"; done
     ;;
   grade_tonnage_limits)
     # The curve at the cut-offs of the limit tables gives their totals; 0 gives the drawing's.
