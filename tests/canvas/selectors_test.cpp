@@ -47,19 +47,6 @@ TEST(Selectors, TheTableRuleInEveryState) {
   }
 }
 
-TEST(Selectors, ALithologyListsItsDrawingsAndChoosesNoneOfThem) {
-  DrawingSession s("worked_example.xls", "ore", "Kuzey");
-  s.addLimit("2");
-  Controls& ui = s.state.ui;
-  ui.combo4.setListIndex(1);
-  EXPECT_EQ(ui.combo2.listIndex(), -1);
-  ui.combo2.setListIndex(1);
-  EXPECT_EQ(ui.combo1.listIndex(), 0);
-  // A title empties the lists below it and selects their titles.
-  ui.combo5.setListIndex(0);
-  for (Combo* c : {&ui.combo4, &ui.combo2, &ui.combo1}) EXPECT_EQ(c->listIndex(), 0) << c->name();
-}
-
 TEST(Selectors, ChoosingAProjectReloadsItsHolesAndFrame) {
   Session s;
   s.createProject(fixture("small.xls"), "small.mdb");
@@ -70,10 +57,13 @@ TEST(Selectors, ChoosingAProjectReloadsItsHolesAndFrame) {
   EXPECT_EQ(s.state.frame.ebxk, 210.25);
 }
 
-TEST(Selectors, TheLimitTitleRedrawsOnlyWithADrawingChosen) {
+TEST(Selectors, ALithologyChoosesNoDrawingAndTheLimitTitleRedrawsOnlyUnderADrawing) {
   DrawingSession s("worked_example.xls", "ore", "Kuzey");
+  s.state.ui.combo4.setListIndex(1);
+  EXPECT_EQ(s.state.ui.combo2.listIndex(), -1);
   for (int drawing : {0, 1}) {
     s.state.ui.combo2.setListIndex(drawing);
+    EXPECT_EQ(s.state.ui.combo1.listIndex(), 0);
     s.canvas.clearLog();
     s.state.ui.combo1.setListIndex(0);
     EXPECT_EQ(s.canvas.log().empty(), drawing == 0);

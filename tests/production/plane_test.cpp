@@ -1,5 +1,5 @@
 // Production, Data, Plane: the point sets of a workbook's column pairs, their colours, and the
-// points drawn, where a text cell fails.
+// points drawn, where a text cell fails; then the rubber line of tracing an area over them.
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
@@ -67,6 +67,28 @@ TEST(Plane, ATextCellFailsWhenItsPointIsDrawnNamingTheCell) {
             (std::vector<std::string>{"point 520 820 color=255 width=5",
                                       "point 630.5 820 color=255 width=5",
                                       "point 575 835 color=16711680 width=5"}));
+}
+
+TEST(Tracing, TheRubberLineRunsFromTheLastCornerToThePointer) {
+  // Set 1 has points at (520, 820) and (630, 820).
+  PlaneSession s;
+  s.readPlane({planeSheet({{{520, 820}, {630, 820}}})}, {kRed});
+  s.run("Mnnuciz_Click");
+  const LineControl& line = s.state.ui.line1;
+  s.move(600, 900);
+  EXPECT_FALSE(line.visible);
+  s.click(521, 819);
+  s.click(629, 821);
+  s.move(600, 900);
+  EXPECT_TRUE(line.visible && line.color == 0 && line.width == 1);
+  EXPECT_EQ(std::vector<double>({line.x1, line.y1, line.x2, line.y2}),
+            std::vector<double>({630, 820, 600, 900}));
+  s.click(1, 1, 2);
+  EXPECT_FALSE(line.visible);
+  s.run("Mnsuciz_Click");
+  s.click(540.5, 860);
+  s.move(600, 900);
+  EXPECT_EQ(std::vector<double>({line.x1, line.y1}), std::vector<double>({540.5, 860}));
 }
 
 }  // namespace

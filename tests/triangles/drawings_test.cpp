@@ -24,19 +24,16 @@ TEST(Drawings, AddMakesTheTableTheRowAndTheEntryAndStartsEntry) {
   EXPECT_TRUE(s.state.flags.modcizim);
   EXPECT_FALSE(s.state.ui.enabled("Mntoprez"));
   EXPECT_FALSE(s.state.ui.enabled("Mnaortyog"));
+  // A new header takes the kal of the last studied header.
+  writeStored(s.path, "Kuzey", 1, "kal", 1234);
+  s.addLimit("1");
+  s.addDrawing("Guney");
+  EXPECT_EQ(s.table("Guney").number(1, "kal"), 1234);
 
   // A name taken in the project fails, with the entry already listed.
   s.state.ui.combo4.setListIndex(2);  // waste
   EXPECT_THROW(s.addDrawing("Kuzey"), Fault);
   EXPECT_EQ(s.state.ui.combo2.items(), (Names{"Çizimler", "Kuzey"}));
-}
-
-TEST(Drawings, TheHeaderTakesTheLastStudiedHeadersKal) {
-  DrawingSession s("worked_example.xls", "ore", "Kuzey");
-  writeStored(s.path, "Kuzey", 1, "kal", 1234);
-  s.addLimit("1");
-  s.addDrawing("Guney");
-  EXPECT_EQ(s.table("Guney").number(1, "kal"), 1234);
 }
 
 TEST(Drawings, EditContinuesTheSelectedDrawing) {
