@@ -59,4 +59,13 @@ void MapSession::showDrawing(const std::vector<StoredTriangle>& triangles,
   state.ui.combo2.setListIndex(1);
 }
 
+std::vector<CanvasOp> MapSession::drawn(CanvasOp::Kind kind) const {
+  std::vector<CanvasOp> ops;
+  for (const CanvasOp& op : canvas.log()) {
+    if (op.kind == CanvasOp::Kind::Clear) ops.clear();
+    if (op.kind == kind) ops.push_back(op);
+  }
+  return ops;
+}
+
 }  // namespace tri

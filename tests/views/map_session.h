@@ -26,11 +26,16 @@ struct StoredLimit {
 
 struct MapSession : Session {
   MapSession() { path = createProject(fixture("cluster.xls")); }
+  explicit MapSession(const std::vector<StoredTriangle>& triangles) : MapSession() {
+    showDrawing(triangles);
+  }
 
   // Writes the drawing "plan1" of lithology ore with its limit tables, opens the project
   // again and selects ore and the drawing.
   void showDrawing(const std::vector<StoredTriangle>& triangles,
                    const std::vector<StoredLimit>& limits = {});
+  // The operations of a kind since the canvas was last cleared.
+  std::vector<CanvasOp> drawn(CanvasOp::Kind kind) const;
 
   std::string path;
 };

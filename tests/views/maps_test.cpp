@@ -1,7 +1,5 @@
-// The value maps and their display settings over a project of the cluster
-// workbook (holes C-01 .. C-14, 50 m apart) whose drawing is written straight
-// into its file, so that the maps can be fed any stored values. The maps of the
-// sample project, with the order of their drawing, are the scenarios tenor_map,
+// The value maps and their display settings over stored drawings of the cluster project. The
+// maps of the sample project, with the order of their drawing, are the scenarios tenor_map,
 // reserve_map and general_reserve_map.
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -14,67 +12,14 @@
 #include "platform/fault.h"
 #include "platform/store.h"
 #include "store/project_format.h"
-#include "support/session.h"
+#include "views/map_session.h"
 
 namespace tri {
 namespace {
 
 using Kind = CanvasOp::Kind;
 
-// A triangle between three holes (numbers from 1), its tenor and reserve in
-// thousandths.
-struct Stored {
-  std::array<int, 3> holes;
-  double tenor = 0;
-  double reserve = 0;
-};
-
-// The drawing "plan1" of ore, selected.
-struct MapSession : Session {
-  explicit MapSession(const std::vector<Stored>& triangles) {
-    path = createProject(fixture("cluster.xls"));
-    {
-      Database db = Database::open(path);
-      db.createTable("plan1", drawingFields());
-      Recordset t = db.openTable("plan1");
-      auto add = [&t](std::initializer_list<std::pair<const char*, double>> values) {
-        t.addNew();
-        for (const auto& [name, value] : values) t.set(name, value);
-        t.update();
-      };
-      add({{"ucgensay", 0}});
-      for (size_t i = 0; i < triangles.size(); ++i) {
-        for (int h : triangles[i].holes) {
-          add({{"koordinat1", state.holes.eks[h] * 1000},
-               {"koordinat2", state.holes.eye[h] * 1000}});
-        }
-        add({{"ucgensay", static_cast<double>(i + 1)},
-             {"geneltenor", triangles[i].tenor},
-             {"genelrezerv", triangles[i].reserve}});
-      }
-      Recordset ore = db.openTable("ore");
-      ore.addNew();
-      ore.set("cizim", "plan1");
-      ore.set("tsay", 1);
-      ore.update();
-    }
-    openProject(path);
-    state.ui.combo4.setListIndex(1);
-    state.ui.combo2.setListIndex(1);
-  }
-  // The operations of a kind since the canvas was last cleared.
-  std::vector<CanvasOp> drawn(Kind kind) const {
-    std::vector<CanvasOp> ops;
-    for (const CanvasOp& op : canvas.log()) {
-      if (op.kind == Kind::Clear) ops.clear();
-      if (op.kind == kind) ops.push_back(op);
-    }
-    return ops;
-  }
-  std::string path;
-};
-
-const Stored kLowerLeft{{1, 2, 4}, 1125, 1005};  // C-01 C-02 C-04, legs of 50 m
+const StoredTriangle kLowerLeft{{1, 2, 4}, 1125, 1005};  // C-01 C-02 C-04, legs of 50 m
 
 TEST(ShowHide, EachUseRedrawsAndAnOddNumberOfUsesLeavesTheItemOn) {
   struct Toggle {
@@ -149,7 +94,7 @@ TEST(MapPass, EachMapReplacesTheOtherViewsAndShowsTheCanvasAlone) {
 }
 
 TEST(MapPass, HolesEndAtAPointNameAndAreNotDrawnWithoutATable) {
-  MapSession s({});
+  MapSession s(std::vector<StoredTriangle>{});
   {
     Database db = Database::open(s.path);
     Recordset kor = db.openTable(kHoleTable);
@@ -193,8 +138,8 @@ TEST(GeneralMap, ClassesAreEqualWidthsBetweenTheSmallestAndTheGreatestReserve) {
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.count);
-    std::vector<Stored> triangles;
-    for (double reserve : c.reserves) triangles.push_back({{1, 2, 4}, 0, reserve});
+    std::vector<StoredTriangle> triangles;
+    for (int reserve : c.reserves) triangles.push_back({{1, 2, 4}, 0, reserve});
     MapSession s(triangles);
     s.run("Mngenelrezervler_Click");
     s.dialogs.answerInput(c.count);

@@ -35,9 +35,6 @@ TEST(Menu, TheBarHoldsEveryItemOfTheTableUnderItsParentInOrder) {
                     item.shortcut + (item.checkable ? " checkable" : ""));
   }
   EXPECT_EQ(shown, table);
-  // The shortcuts the user guide names.
-  EXPECT_EQ(h.action("Mnprolus")->shortcut(), QKeySequence("Ctrl+F"));
-  EXPECT_EQ(h.action("Mnprojeac")->shortcut(), QKeySequence("Ctrl+O"));
 }
 
 // A procedure whose item name is misspelt in the menu would never run.

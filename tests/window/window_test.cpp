@@ -38,22 +38,16 @@ void showPlan(WindowHarness& h) {
   h.choose("Combo2", 1);
 }
 
-TEST(WindowProject, ChoosingADrawingShowsItsTrianglesOnTheCanvas) {
+TEST(WindowCanvas, ADrawingIsShownAndAClickReachesTheLogicAtTheWorldPointOfItsPixel) {
   WindowHarness h;
   showPlan(h);
-  ASSERT_TRUE(h.faults.empty()) << h.faultTexts();
   EXPECT_EQ(h.combo("Combo2")->currentText(), "plan1");
-
   const QImage shown = h.shownPicture();
   // On the sides C-04 C-05 and C-05 C-08, away from the holes; inside the first triangle.
   EXPECT_TRUE(blackNear(shown, h.pixelOf(587.5, 850)));
   EXPECT_TRUE(blackNear(shown, h.pixelOf(587.5, 862.5)));
   EXPECT_EQ(shown.pixelColor(h.pixelOf(562, 862)), QColor(Qt::white));
-}
 
-TEST(WindowCanvas, AClickReachesTheLogicAtTheWorldPointOfItsPixel) {
-  WindowHarness h;
-  showPlan(h);
   struct Press {
     int button;
     float x, y;
@@ -64,7 +58,6 @@ TEST(WindowCanvas, AClickReachesTheLogicAtTheWorldPointOfItsPixel) {
   });
   const Canvas& canvas = h.window.canvas();
   const double pixelWidth = canvas.scaleWidth() / canvas.pixelWidth();
-
   h.click(h.pixelOf(600, 900));
   ASSERT_EQ(presses.size(), 1u);
   EXPECT_EQ(presses[0].button, 1);
@@ -73,20 +66,16 @@ TEST(WindowCanvas, AClickReachesTheLogicAtTheWorldPointOfItsPixel) {
   // Triangle entry took the hole under the pointer, C-09, as the first corner.
   EXPECT_EQ(h.state().entry.secsond, 9);
   EXPECT_EQ(h.labelText(1).toStdString(), h.state().ui.label(1));
-
   h.click(h.pixelOf(600, 900), Qt::RightButton);
   EXPECT_EQ(presses.back().button, 2);
   EXPECT_FALSE(h.state().flags.modcizim);
-  ASSERT_TRUE(h.faults.empty()) << h.faultTexts();
+  EXPECT_TRUE(h.faults.empty()) << h.faultTexts();
 }
 
 TEST(WindowCanvas, TheCanvasFollowsTheSizeOfItsWidget) {
   WindowHarness h;
-  EXPECT_EQ(h.window.canvas().pixelWidth(), h.picture1()->width());
   h.window.resize(900, 640);
   QApplication::processEvents();
-  EXPECT_EQ(h.window.canvas().pixelWidth(), h.picture1()->width());
-  EXPECT_EQ(h.window.canvas().pixelHeight(), h.picture1()->height());
   EXPECT_EQ(h.window.canvas().image().size(), h.picture1()->size());
 }
 
@@ -114,12 +103,6 @@ TEST(WindowFault, ExitClosesTheWindowWithoutAnError) {
   EXPECT_FALSE(h.window.isVisible());
   EXPECT_TRUE(h.faults.empty());
 }
-
-}  // namespace
-}  // namespace tri
-
-namespace tri {
-namespace {
 
 TEST(WindowPrint, ThePrintPanelsTakeTheCanvasPlaceWithThePdfEntryLast) {
   WindowHarness h;
