@@ -67,8 +67,25 @@ TEST(StoreFile, EveryUpdateIsInTheFileWhenItReturnsAndAClosedProjectIsOneFile) {
   EXPECT_FALSE(std::filesystem::exists(path + "-shm"));
   EXPECT_TRUE(faults([&] { db.tableNames(); }, FaultKind::Database, {path, "closed"}));
   EXPECT_TRUE(faults([&] { rs.moveFirst(); }, FaultKind::Database, {path, "closed"}));
-  Recordset outlivesItsDatabase = Database::open(path).openTable("t");
-  EXPECT_EQ(outlivesItsDatabase.number("n"), 1);
+  {
+    Recordset outlivesItsDatabase = Database::open(path).openTable("t");
+    EXPECT_EQ(outlivesItsDatabase.number("n"), 1);
+  }
+
+  // A reader changes nothing and, closed, leaves the project one file again.
+  const std::string before = contents(path);
+  {
+    Database reader = Database::openReadOnly(path);
+    Recordset read = reader.openTable("t");
+    EXPECT_EQ(read.recordCount(), 3);
+    read.edit();
+    read.set("n", 7);
+    EXPECT_THROW(read.update(), Fault);
+    EXPECT_THROW(reader.createTable("u", kMixedFields), Fault);
+  }
+  EXPECT_EQ(contents(path), before);
+  EXPECT_FALSE(std::filesystem::exists(path + "-wal"));
+  EXPECT_FALSE(std::filesystem::exists(path + "-shm"));
 }
 
 TEST(StoreTables, AreFoundWhateverTheCaseAndKeepTheirNamesAndFieldsAsCreated) {

@@ -1,5 +1,6 @@
 // The 3D view in the real window, over three triangles of the sample project entered with
-// the mouse: turned with the bar below the canvas and written as pictures at three angles.
+// the mouse: turned with the bar below the canvas and written as pictures at three angles,
+// then the three value maps, each written as a picture.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -56,6 +57,11 @@ TEST(WindowMaps, TheReserveViewTurnsWithTheBarAndADragDrawsTheLatestAngle) {
   h.trigger("Mnyuzdeten");
   EXPECT_TRUE(h.action("Mnkaydir")->isEnabled() && h.action("Mnolcekg")->isEnabled());
   EXPECT_TRUE(bar->isHidden());
+  save("window-tenor-map.png");
+  h.trigger("Mnrezton");
+  save("window-reserve-map.png");
+  h.trigger("Mngenelrezervler");
+  save("window-general-reserve-map.png");
   EXPECT_TRUE(h.faults.empty()) << h.faultTexts();
 }
 
