@@ -45,6 +45,11 @@ TEST(Plane, ColumnPairsMakeTheSets) {
       {kRed, rgb(0, 160, 0), kBlue});
   EXPECT_EQ(empty.state.production.planesay, 3);
   EXPECT_EQ(empty.state.production.plansay[2], 0);
+  // Six columns: a longer set later in the first half is the largest.
+  PlaneSession even;
+  even.readPlane({planeSheet({{{520, 820}}, {{500, 800}, {510, 800}}, {{530, 800}}})},
+                 {kRed, kBlue, kRed});
+  EXPECT_EQ(even.state.production.planemax, 2);
   EXPECT_EQ(drawnPoints(empty.canvas).back(), "point 575 835 color=16711680 width=5");
   EXPECT_EQ(empty.dialogs.pending(), 0u);
 }
